@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+//
+// Building matchers, and the test of a list of strings: the set of first units turns most
+// positions away before any string is compared.
+#include "text_format_detection/platform/delimiter_matcher.hpp"
+
+#include "text_format_detection/model/options.hpp"
+
+namespace textio {
+
+namespace {
+
+DelimiterMatcher::Mode make_mode(std::vector<std::u16string> const& strings) {
+  if (strings.size() == 1 && strings.front().size() == 1) {
+    return DelimiterMatcher::SingleUnit{strings.front().front()};
+  }
+  DelimiterMatcher::StringList list;
+  for (std::u16string const& string : strings) {
+    if (string.empty() || string.find(end_mark) != std::u16string::npos) {
+      continue;
+    }
+    list.strings.push_back(string);
+    if (list.first_units.find(string.front()) == std::u16string::npos) {
+      list.first_units.push_back(string.front());
+    }
+  }
+  return list;
+}
+
+}  // namespace
+
+std::size_t DelimiterMatcher::StringList::length_at(std::u16string_view const text,
+                                                    std::size_t const pos) const noexcept {
+  if (pos >= text.size() || first_units.find(text[pos]) == std::u16string::npos) {
+    return 0;
+  }
+  std::u16string_view const rest = text.substr(pos);
+  for (std::u16string const& string : strings) {
+    if (rest.starts_with(string)) {
+      return string.size();
+    }
+  }
+  return 0;
+}
+
+DelimiterMatcher::DelimiterMatcher(std::vector<std::u16string> const& strings)
+    : mode_(make_mode(strings)) {}
+
+std::size_t DelimiterMatcher::length_at(std::u16string_view const text,
+                                        std::size_t const pos) const noexcept {
+  if (auto const* const single = std::get_if<SingleUnit>(&mode_)) {
+    return single->length_at(text, pos);
+  }
+  return std::get<StringList>(mode_).length_at(text, pos);
+}
+
+std::u16string DelimiterMatcher::first_units() const {
+  if (auto const* const single = std::get_if<SingleUnit>(&mode_)) {
+    return {single->unit};
+  }
+  return std::get<StringList>(mode_).first_units;
+}
+
+std::shared_ptr<DelimiterMatcher const> get_or_create_delim(
+    std::vector<std::u16string> const& strings) {
+  return std::make_shared<DelimiterMatcher const>(strings);
+}
+
+}  // namespace textio

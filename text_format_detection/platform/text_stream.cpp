@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+//
+// The stream's buffer. Text that was passed stays in front of the current position until the
+// buffer has to grow anyway; the last slot is never filled, so that an end mark always follows.
+#include "text_format_detection/platform/text_stream.hpp"
+
+#include <algorithm>
+#include <stdexcept>
+#include <utility>
+
+#include "text_format_detection/model/options.hpp"
+
+namespace ostrel::io::text::stream {
+
+TextStream::TextStream(Source source) : source_(std::move(source)), buffer_(1, textio::end_mark) {}
+
+char16_t const* TextStream::data() const noexcept {
+  return buffer_.data() + start_;
+}
+
+std::size_t TextStream::buffered() const noexcept {
+  return end_ - start_;
+}
+
+std::size_t TextStream::capacity() const noexcept {
+  return buffer_.size() - 1 - start_;
+}
+
+char16_t TextStream::unit(std::size_t const index) const noexcept {
+  return index < buffered() ? data()[index] : textio::end_mark;
+}
+
+void TextStream::resizeInternalBuffer(std::size_t const length) const {
+  if (length <= capacity()) {
+    return;
+  }
+  if (length > buffer_.max_size() - 1 - start_) {
+    throw std::length_error("TextStream: the buffer cannot grow to the requested length");
+  }
+  buffer_.resize(start_ + length + 1, textio::end_mark);
+}
+
+std::size_t TextStream::refill() const {
+  // Puts the end mark behind the text again, also when the source throws half-way.
+  struct EndMarkKeeper {
+    TextStream const& stream;
+
+    ~EndMarkKeeper() { stream.buffer_[stream.end_] = textio::end_mark; }
+  } const keeper{*this};
+
+  std::size_t const before = end_;
+  while (!at_end_ && end_ + 1 < buffer_.size()) {
+    std::size_t const room = buffer_.size() - 1 - end_;
+    std::size_t const delivered = std::min(source_(buffer_.data() + end_, room), room);
+    end_ += delivered;
+    at_end_ = delivered == 0;
+  }
+  return end_ - before;
+}
+
+void TextStream::advance(std::size_t const length) {
+  start_ += std::min(length, buffered());
+  if (start_ < buffer_.size() / 2) {
+    return;
+  }
+  std::copy(data(), data() + buffered(), buffer_.begin());
+  end_ = buffered();
+  start_ = 0;
+  buffer_[end_] = textio::end_mark;
+}
+
+}  // namespace ostrel::io::text::stream

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+//
+// Reading with given options, for callers: text for real, block by block, with the caller's own
+// rules; or a sample with a strategy that the caller built.
+#pragma once
+
+#include <cstddef>
+#include <memory>
+
+#include "text_format_detection/export.hpp"
+#include "text_format_detection/model/enums.hpp"
+#include "text_format_detection/model/field.hpp"
+#include "text_format_detection/model/field_array.hpp"
+#include "text_format_detection/model/options.hpp"
+#include "text_format_detection/strategies/generic_strategy.hpp"
+
+namespace textio {
+
+/// What one run of a reading loop did.
+struct ReadSummary {
+  std::size_t units_consumed = 0;  ///< code units, line endings and comments included
+  std::size_t lines_scanned = 0;   ///< records and comment lines
+  std::size_t records_stored = 0;  ///< entries added to the field array
+};
+
+/// Reads records from the start of `text` and appends them to `fields`.
+///
+/// The reader is the one for `mode` (delimited and space-aligned share theirs), and the options are
+/// taken as they are: no strategy adjusts them, and the rules set to Error raise their errors.
+/// Stops when `record_count` records are counted or `line_limit` lines are scanned (`unknown_count`
+/// for no limit; comment lines count, and may exceed the limit by those of one comment), or at the
+/// end of the text; continue with the text behind `units_consumed`. Empty lines under the rule Read
+/// are stored and counted, and when the text ends with a line ending, one more empty record is
+/// stored. A record cut off by the end of a block is read as it stands: hand over blocks that end
+/// with a line ending (see get_fixed_stream).
+/// In fixed-width mode a record keeps at most as many fields as there are column widths, if any.
+///
+/// The fields are views into `text`. Time is linear in what is consumed.
+/// Throws the five parser errors; the records stored before stay in `fields`. Throws
+/// std::bad_alloc.
+TFD_API ReadSummary read_records(parser::options const& options, enums::StrategyMode mode,
+                                 Field const& text, std::size_t record_count,
+                                 std::size_t line_limit, FieldArray& fields);
+
+/// Samples a strategy that the caller built, with any delimiters, widths or layout, and scores it.
+///
+/// Reads the header lines, if their number is given, and `n` records from the start of the sample.
+/// Does nothing for a strategy that was sampled before but return its score. The sample outlives
+/// the strategy's fields. Throws std::bad_alloc; the strategy is not sampled then.
+TFD_API StrategyValuation const& evaluate_strategy(std::shared_ptr<GenericStrategy> const& strategy,
+                                                   Field const& sample, std::size_t n);
+
+}  // namespace textio
