@@ -45,8 +45,8 @@ BROKEN = [
     (f"{LIBRARY}/model/b.cpp", "", "is in no list"),
     (f"{LIBRARY}/helpers/b.cpp", "", "no known folder"),
     (f"{LIBRARY}/{LIBRARY}.hpp", f'#include "{LIBRARY}/model/a.hpp"', "does not include"),
-    ("text_import/CMakeLists.txt", "set(TEXT_IMPORT_PUBLIC_HEADERS i.hpp j.hpp)", "does not exist"),
-    ("cli/CMakeLists.txt", "set(TFD_CLI_SOURCES main.cpp gone.cpp)", "does not exist"),
+    ("text_import/CMakeLists.txt", "set(TEXT_IMPORT_PUBLIC_HEADERS i.hpp j.hpp)", "text_import/j.hpp: is in"),
+    ("cli/CMakeLists.txt", "set(TFD_CLI_SOURCES main.cpp gone.cpp)", "cli/gone.cpp: is in"),
     ("tests/model/b_test.cpp", "", "is in no list"),
 ]
 
@@ -71,7 +71,7 @@ def main():
         failures.append(f"the sound tree is refused:\n{output}")
     for name, text, expected in BROKEN:
         code, output = run({name: text})
-        if code != 1 or f"{name}: " not in output or expected not in output:
+        if code != 1 or expected not in output:
             failures.append(f"{name} with {text!r}: {expected!r} not found, exit {code}:\n{output}")
     with tempfile.TemporaryDirectory() as root:
         if subprocess.run([CHECK, root], capture_output=True, check=False).returncode != 2:
