@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// TEXT_IMPORT_API marks what the import library exports; all else is hidden.
+// TEXT_IMPORT_API marks what the import library exports; everything is compiled with hidden
+// visibility. A class carries the mark as a whole, so that its type information crosses too.
 #pragma once
 
 #if defined(__GNUC__)
