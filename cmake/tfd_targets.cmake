@@ -17,8 +17,7 @@ target_compile_options(
             -Wshadow
             -Wnon-virtual-dtor
             -Wold-style-cast
-            -Woverloaded-virtual
-            -Wnull-dereference)
+            -Woverloaded-virtual)
 
 if(TFD_SANITIZE)
   set(tfd_sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all)

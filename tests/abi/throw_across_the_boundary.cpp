@@ -3,12 +3,12 @@
 // Each parser error leaves the real shared library and is caught outside, by its own type and by
 // the base. This can only go wrong in a program that does not contain the library's objects: type
 // information that is not exported exists twice, and the handler is passed by.
-#include <gtest/gtest.h>
-
 #include <cstddef>
 #include <functional>
 #include <string>
 #include <string_view>
+
+#include <gtest/gtest.h>
 
 #include "text_format_detection/text_format_detection.hpp"
 
@@ -91,6 +91,7 @@ TEST(throw_across_the_boundary, from_read_records) {
     std::u16string_view text;
     Outcome expected;
   };
+
   using enums::StrategyMode;
   for (Row const& row : {
            Row{StrategyMode::FixedWidth, u"aabbb\naabb\n", {"partial_field_error", 1, 1, u"\\n"}},

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
 // A stranger's program: only what is installed, through the one header. Prints what was found.
-#include <text_format_detection/text_format_detection.hpp>
-
 #include <cstdio>
 #include <cstring>
+
+#include <text_format_detection/text_format_detection.hpp>
 
 int main() {
   textio::parser::options const options;
