@@ -57,13 +57,15 @@ function(tfd_version_script target map)
   set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${map})
 endfunction()
 
-# tfd_gtest(NAME SOURCES... LIBRARIES...): a GoogleTest program; CTest sees each test in it.
+# tfd_gtest(NAME [PREFIX prefix] SOURCES... LIBRARIES...): a GoogleTest program. CTest sees each
+# test in it, under its own name behind the prefix.
 function(tfd_gtest name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "PREFIX" "SOURCES;LIBRARIES")
   add_executable(${name} ${arg_SOURCES})
   tfd_defaults(${name})
   target_link_libraries(${name} PRIVATE ${arg_LIBRARIES} GTest::gtest_main)
-  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120)
+  gtest_discover_tests(${name} TEST_PREFIX "${arg_PREFIX}" DISCOVERY_TIMEOUT 60
+                       PROPERTIES TIMEOUT 120)
 endfunction()
 
 # tfd_test(NAME COMMAND...): a program or script as a test.
