@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+//
+// From bytes to UTF-16, block by block.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "text_import/source/text_source.hpp"
+
+namespace textimport {
+
+/// Decodes a text that arrives in blocks; where a block is cut has no influence on the text.
+class decoder {
+ public:
+  /// `encoding` is a name as encoding_finding has it. `offset` is the position of the first byte
+  /// that is going to be decoded. With `strict`, decode() throws import_error (BadBytes) with
+  /// `path` in front of the first byte without a meaning.
+  decoder(std::string const& encoding, std::uint64_t offset, bool strict, std::string path);
+
+  decoder(decoder const&) = delete;
+  decoder(decoder&&) = delete;
+  decoder& operator=(decoder const&) = delete;
+  decoder& operator=(decoder&&) = delete;
+  ~decoder();
+
+  /// Appends the text of `bytes` to `text`. Bytes of a character that is not whole are kept for
+  /// the next call; with `last` there is none, and they are bad bytes.
+  /// Appends no U+FFFF. When it throws, the text in front of the bad byte was appended.
+  void decode(std::string_view bytes, bool last, std::u16string& text);
+
+  [[nodiscard]] decoding_counts const& counts() const noexcept { return counts_; }
+
+  /// What the converter's error handler reports; not for other callers.
+  void note_bad_bytes(std::uint64_t offset, std::size_t length);
+
+ private:
+  struct converter;
+
+  void convert(std::string_view bytes, bool last, std::u16string& text);
+  void replace_end_marks(std::u16string& text, std::size_t start);
+  [[noreturn]] void throw_bad_bytes() const;
+
+  std::unique_ptr<converter> converter_;
+  std::string encoding_;
+  std::string path_;
+  std::uint64_t offset_;  // of the first byte that was not handed to the converter
+  bool strict_;
+  bool ascii_is_itself_;
+  decoding_counts counts_;
+};
+
+}  // namespace textimport

@@ -1,0 +1,245 @@
+// SPDX-License-Identifier: MIT
+//
+// The head of the data is read and decoded as a whole, because the encoding is found out from all
+// of it; what follows is decoded block by block when the stream asks for it. A failure behind text
+// is kept until that text was delivered.
+#include "text_import/source/text_source.hpp"
+
+#include <algorithm>
+#include <exception>
+#include <optional>
+#include <stdexcept>
+#include <utility>
+
+#include "text_import/import_error.hpp"
+#include "text_import/source/decoder_internal.hpp"
+
+namespace textimport {
+namespace {
+
+/// Damage behind text that was delivered does not take that text away.
+bool leaves_text_usable(import_error_kind const kind) {
+  return kind == import_error_kind::DamagedCompression ||
+         kind == import_error_kind::TruncatedCompression;
+}
+
+/// The length of `text` up to and with its last line ending, 0 without any. A CR at the very end
+/// is none: an LF may follow.
+std::size_t whole_lines(std::u16string_view const text) {
+  if (text.empty()) {
+    return 0;
+  }
+  std::size_t const searched = text.back() == u'\r' ? text.size() - 1 : text.size();
+  return text.substr(0, searched).find_last_of(u"\r\n") + 1;
+}
+
+void count_characters(std::u16string_view const text, text_findings& findings) {
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    switch (text[i]) {
+      case u'\0':
+        ++findings.nuls;
+        break;
+      case u'\n':
+        ++findings.line_endings.lf;
+        break;
+      case u'\r':
+        if (i + 1 < text.size() && text[i + 1] == u'\n') {
+          ++findings.line_endings.crlf;
+          ++i;
+        } else {
+          ++findings.line_endings.cr;
+        }
+        break;
+      default:
+        break;
+    }
+  }
+}
+
+}  // namespace
+
+struct text_source::state {
+  state(std::unique_ptr<byte_source> source, std::string name, open_options const& given)
+      : bytes(std::move(source)), path(std::move(name)), options(given) {}
+
+  void open();
+  std::size_t deliver(char16_t* room, std::size_t capacity);
+
+  std::unique_ptr<byte_source> bytes;
+  std::string path;
+  open_options options;
+  text_findings findings;
+  std::optional<decoder> decoding;
+  std::u16string head_text;  // the sample and the begun line behind it
+  std::size_t sample_length = 0;
+  bool is_streamed = false;
+
+ private:
+  void read_head(std::string& head);
+  void look_behind_head();
+  std::size_t read_block(char* room, std::size_t capacity);
+  void note_failure(import_error const& error, bool after_text);
+  void find_encoding_of(std::string_view head);
+  void cut_sample();
+  void decode_next_block();
+
+  std::string ahead;  // the block behind the head, read to see whether there is one
+  std::u16string block_text;
+  std::u16string_view undelivered;
+  std::exception_ptr failure;
+  bool at_end = false;
+};
+
+void text_source::state::open() {
+  std::string head;
+  read_head(head);
+  look_behind_head();
+  findings.bytes_read = head.size();
+  find_encoding_of(head);
+  decoding.emplace(findings.encoding.name, findings.encoding.mark_bytes, options.strict, path);
+  head_text.reserve(head.size());
+  decoding->decode(std::string_view(head).substr(findings.encoding.mark_bytes), !findings.goes_on,
+                   head_text);
+  findings.decoding = decoding->counts();
+  cut_sample();
+  count_characters({head_text.data(), sample_length}, findings);
+  undelivered = head_text;
+}
+
+void text_source::state::read_head(std::string& head) {
+  try {
+    while (head.size() < options.sample_bytes && !at_end) {
+      std::size_t const room = std::min(options.block_bytes, options.sample_bytes - head.size());
+      std::size_t const start = head.size();
+      head.resize(start + room);
+      std::size_t delivered = 0;
+      try {
+        delivered = bytes->read(head.data() + start, room);
+      } catch (...) {
+        head.resize(start);
+        throw;
+      }
+      head.resize(start + delivered);
+      at_end = delivered == 0;
+    }
+  } catch (import_error const& error) {
+    note_failure(error, !head.empty());
+  }
+}
+
+void text_source::state::look_behind_head() {
+  if (!at_end && !failure) {
+    ahead.resize(options.block_bytes);
+    try {
+      ahead.resize(bytes->read(ahead.data(), ahead.size()));
+      at_end = ahead.empty();
+    } catch (import_error const& error) {
+      ahead.clear();
+      note_failure(error, true);
+    }
+  }
+  findings.goes_on = !at_end;
+}
+
+void text_source::state::note_failure(import_error const& error, bool const after_text) {
+  if (!after_text || !leaves_text_usable(error.kind())) {
+    throw;  // the error that is being handled
+  }
+  failure = std::current_exception();
+  findings.warnings.push_back(error.message());
+}
+
+void text_source::state::find_encoding_of(std::string_view const head) {
+  findings.encoding = options.encoding.empty() ? find_encoding(head, !findings.goes_on)
+                                               : given_encoding(options.encoding, head, path);
+}
+
+void text_source::state::cut_sample() {
+  sample_length = head_text.size();
+  if (findings.goes_on) {
+    std::size_t const length = whole_lines(head_text);
+    findings.no_line_end = length == 0;
+    sample_length = length == 0 ? head_text.size() : length;
+  }
+}
+
+std::size_t text_source::state::deliver(char16_t* const room, std::size_t const capacity) {
+  while (undelivered.empty()) {
+    if (failure) {
+      std::rethrow_exception(failure);
+    }
+    if (at_end) {
+      return 0;
+    }
+    decode_next_block();
+  }
+  std::size_t const delivered = undelivered.copy(room, capacity);
+  undelivered.remove_prefix(delivered);
+  return delivered;
+}
+
+void text_source::state::decode_next_block() {
+  block_text.clear();
+  try {
+    if (ahead.empty()) {
+      ahead.resize(options.block_bytes);
+      try {
+        ahead.resize(bytes->read(ahead.data(), ahead.size()));
+      } catch (...) {
+        ahead.clear();
+        throw;
+      }
+      at_end = ahead.empty();
+    }
+    std::string const block = std::exchange(ahead, {});
+    decoding->decode(block, at_end, block_text);
+  } catch (...) {
+    failure = std::current_exception();
+  }
+  undelivered = block_text;
+}
+
+text_source::text_source(std::shared_ptr<state> opened) noexcept : state_(std::move(opened)) {}
+
+text_source::text_source(text_source&&) noexcept = default;
+text_source& text_source::operator=(text_source&&) noexcept = default;
+text_source::~text_source() = default;
+
+text_source text_source::open(std::string const& path, open_options const& options) {
+  return open(open_bytes(path), path, options);
+}
+
+text_source text_source::open(std::unique_ptr<byte_source> bytes, std::string const& path,
+                              open_options const& options) {
+  auto opened = std::make_shared<state>(std::move(bytes), path, options);
+  opened->open();
+  return text_source(std::move(opened));
+}
+
+textio::Field text_source::sample() const noexcept {
+  return {state_->head_text.data(), state_->sample_length};
+}
+
+ostrel::io::text::stream::TextStream text_source::stream() {
+  if (std::exchange(state_->is_streamed, true)) {
+    throw std::logic_error("text_source: the text can be read once");
+  }
+  return ostrel::io::text::stream::TextStream(
+      [opened = state_](char16_t* const room, std::size_t const capacity) {
+        return opened->deliver(room, capacity);
+      });
+}
+
+text_findings const& text_source::findings() const noexcept {
+  return state_->findings;
+}
+
+decoding_counts const& text_source::decoded_so_far() const noexcept {
+  return state_->decoding->counts();
+}
+
+std::string const& text_source::path() const noexcept {
+  return state_->path;
+}
+
+}  // namespace textimport
