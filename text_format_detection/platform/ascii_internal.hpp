@@ -29,8 +29,7 @@ namespace textio::platform {
 
 /// The number of digits at the start of the text, counted up to `limit`.
 [[nodiscard]] constexpr std::size_t leading_digits(
-    std::u16string_view const text,
-    std::size_t const limit = std::u16string_view::npos) noexcept {
+    std::u16string_view const text, std::size_t const limit = std::u16string_view::npos) noexcept {
   std::size_t const end = std::min(limit, text.size());
   std::size_t count = 0;
   while (count < end && is_digit(text[count])) {

@@ -67,15 +67,14 @@ class Cursor {
 
   int take_month() noexcept {
     std::u16string_view const word = word_ahead();
-    int const full = month_number(word, NameForm::Full);
-    int const month = full > 0 ? full : month_number(word, NameForm::Abbreviation);
+    int const month = month_number(word, form_of(word));
     rest_.remove_prefix(month > 0 ? word.size() : 0);
     return month;
   }
 
   bool take_weekday() noexcept {
     std::u16string_view const word = word_ahead();
-    bool const found = is_weekday(word, NameForm::Abbreviation) || is_weekday(word, NameForm::Full);
+    bool const found = is_weekday(word, form_of(word));
     rest_.remove_prefix(found ? word.size() : 0);
     return found;
   }
@@ -99,6 +98,11 @@ class Cursor {
       ++length;
     }
     return rest_.substr(0, length);
+  }
+
+  /// No full name is shorter than an abbreviation, and the one of the same length is its own.
+  [[nodiscard]] static NameForm form_of(std::u16string_view const word) noexcept {
+    return word.size() == 3 ? NameForm::Abbreviation : NameForm::Full;
   }
 
   std::u16string_view rest_;
@@ -218,7 +222,7 @@ bool has_built_in_form(std::u16string_view const text) noexcept {
   if (cursor.digits_ahead(compact_date_digits) == compact_date_digits) {
     return is_compact(cursor);
   }
-  if (cursor.take_weekday()) {
+  if (cursor.digits_ahead(1) == 0 && cursor.take_weekday()) {
     cursor.take(u',');
     if (!cursor.take_spaces()) {
       return false;

@@ -25,8 +25,7 @@ std::size_t length_of_sign(std::u16string_view const text) noexcept {
 /// One of the exponent characters, a sign or none, at least one digit.
 std::size_t length_of_exponent(std::u16string_view const text,
                                NumberGrammar const& grammar) noexcept {
-  if (text.empty() ||
-      grammar.exponent_characters.find(text.front()) == std::u16string_view::npos) {
+  if (text.empty() || grammar.exponent_characters.find(text.front()) == std::u16string_view::npos) {
     return 0;
   }
   std::size_t const start = 1 + length_of_sign(text.substr(1));

@@ -11,7 +11,7 @@ namespace textio::strategies {
 
 /// What numbers may look like, beyond what they always look like.
 struct NumberGrammar {
-  std::u16string_view exponent_characters;  ///< set: what may introduce an exponent
+  std::u16string_view exponent_characters;               ///< set: what may introduce an exponent
   std::size_t max_decimals = std::u16string_view::npos;  ///< digits allowed behind the point
 };
 
