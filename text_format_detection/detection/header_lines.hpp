@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// How many lines at the top of a sample are header lines. Includes nothing of this library, since
-// strategies ask it.
+// How many lines at the top of a sample are header lines. Strategies, which detection is built on,
+// ask it: so it knows nothing but numbers, and includes nothing of this library but the export
+// mark.
 #pragma once
 
 #include <cstddef>

@@ -57,8 +57,8 @@ class TFD_API StrategySelector {
   TypeAnalyzerOptions const* type_options_;
   std::vector<std::u16string> delimiters_;
   std::size_t header_lines_;
-  bool auxiliary_flag_;       // kept with the record, not read by detection
-  bool detect_header_lines_;  // likewise
+  [[maybe_unused]] bool auxiliary_flag_;       // kept with the record, not read by detection
+  [[maybe_unused]] bool detect_header_lines_;  // likewise
 };
 
 }  // namespace textio::detection

@@ -99,15 +99,13 @@ class UnitSet {
   return text.substr(skip_members(text, 0, set));
 }
 
-/// The position of the first `unit` from `pos` on, before the end of the text; npos without one.
+/// The position of the first `unit` from `pos` on; the end of the text when there is none before.
 [[nodiscard]] inline std::size_t find_unit(std::u16string_view const text, std::size_t pos,
                                            char16_t const unit) noexcept {
-  for (; !at_end(text, pos); ++pos) {
-    if (text[pos] == unit) {
-      return pos;
-    }
+  while (!at_end(text, pos) && text[pos] != unit) {
+    ++pos;
   }
-  return std::u16string_view::npos;
+  return pos;
 }
 
 /// The sum of two counts, or the largest count when it would not fit.

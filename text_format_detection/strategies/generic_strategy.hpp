@@ -108,10 +108,9 @@ class TFD_API GenericStrategy {
   void set_prior_rank(double const rank) noexcept { valuation_.prior_rank = rank; }
 
  private:
-  std::size_t detect_and_score_fields(std::vector<std::size_t> const& counts);
+  void score(std::vector<std::size_t> const& counts);
   void score_regular_lines(std::vector<std::size_t> const& counts, std::size_t typical,
                            std::size_t skip);
-  StrategyValuation const& finish_valuation();
 
   parser::options options_;
   StrategyValuation valuation_;

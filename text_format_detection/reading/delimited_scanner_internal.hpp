@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: MIT
+//
+// The scan of one delimited record. One scanner, three treatments of consecutive delimiters; it is
+// compiled for each kind of matcher, so that no unit of the text asks which kind it is.
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <string_view>
+#include <utility>
+#include <variant>
+
+#include "text_format_detection/model/errors.hpp"
+#include "text_format_detection/model/text_view_internal.hpp"
+#include "text_format_detection/platform/record_readers.hpp"
+#include "text_format_detection/reading/record_store_internal.hpp"
+
+namespace textio::reading {
+
+/// The position behind every delimiter that stands at `pos`, one after another.
+template <class Delimiters>
+[[nodiscard]] std::size_t skip_delimiters(std::u16string_view const text, std::size_t pos,
+                                          Delimiters const& delimiters) {
+  while (std::size_t const length = delimiters.length_at(text, pos)) {
+    pos += length;
+  }
+  return pos;
+}
+
+/// Treats the empty fields at the end of a record by the trailing-delimiters rule.
+/// Throws trailing_delimiters_error under the rule Error.
+void apply_trailing_rule(enums::TrailingDelimitersRule rule, RecordScan& scan);
+
+/// `Delimiters` and `LineEndings` are modes of DelimiterMatcher.
+template <enums::ConsecutiveDelimitersRule Rule, class Delimiters, class LineEndings>
+class DelimitedScanner {
+ public:
+  DelimitedScanner(parser::DelimitedRecordReader const& reader, Delimiters const& delimiters,
+                   LineEndings const& line_endings)
+      : reader_(reader),
+        delimiters_(delimiters),
+        line_endings_(line_endings),
+        quote_(reader.quote_character()),
+        stops_(model::UnitSet(reader.stop_characters()).with_end_mark()) {}
+
+  /// Scans the record at the start of `text`. Throws the errors of the three delimiter rules.
+  void scan(std::u16string_view const text, RecordScan& scan) const {
+    scan.clear();
+    TrailingRun run;
+    std::size_t pos = skip_leading(text);
+    while (!model::at_end(text, pos) && line_endings_.length_at(text, pos) == 0) {
+      FieldEnd const field = find_field_end(text, pos);
+      std::size_t const next = field.delimiter_length == 0
+                                   ? field.end
+                                   : after_delimiter(text, field, scan.num_fields(), run);
+      scan.add_field(pos, field.end);
+      pos = next;
+    }
+    if (scan.num_fields() > 0 && pos > scan.last_end()) {
+      scan.add_field(pos, pos);  // a delimiter was the last thing in the record
+    }
+    apply_trailing_rule(reader_.options().trailing_delimiters_rule, scan);
+    if (run.pending && scan.num_fields() > run.first) {
+      throw parser::exception::consecutive_delimiters_error(0, 0, {}, {});
+    }
+    std::size_t const ending = line_endings_.length_at(text, pos);
+    scan.occupied = pos + ending;
+    scan.ends_text = ending != 0 && model::at_end(text, scan.occupied);
+  }
+
+  /// Where the content of a record begins: behind `pos` and the delimiters to be ignored there.
+  [[nodiscard]] std::size_t skip_ignored_delimiters(std::u16string_view const text,
+                                                    std::size_t const pos) const {
+    bool const ignored =
+        reader_.options().leading_delimiters_rule == enums::LeadingDelimitersRule::Ignore;
+    return ignored ? skip_delimiters(text, pos, delimiters_) : pos;
+  }
+
+ private:
+  struct FieldEnd {
+    std::size_t end;
+    std::size_t delimiter_length;  // 0: the record ends here
+  };
+
+  /// A run of delimiters that is an error unless the record ends with it; see
+  /// handle_consecutive_delimiters.
+  struct TrailingRun {
+    bool pending = false;
+    std::size_t first = unknown_count;
+  };
+
+  [[nodiscard]] std::size_t skip_leading(std::u16string_view const text) const {
+    bool const forbidden =
+        reader_.options().leading_delimiters_rule == enums::LeadingDelimitersRule::Error;
+    if (forbidden && delimiters_.length_at(text, 0) != 0) {
+      throw parser::exception::leading_delimiters_error(0, 0, {}, {});
+    }
+    return skip_ignored_delimiters(text, 0);
+  }
+
+  /// The end of the field that begins at `pos`. A line ending is tested before a delimiter, so
+  /// that a string which is both ends the record.
+  [[nodiscard]] FieldEnd find_field_end(std::u16string_view const text, std::size_t pos) const {
+    if (text[pos] == quote_) {
+      pos = skip_quoted(text, pos);
+    }
+    for (;; ++pos) {
+      pos = model::find_member(text, pos, stops_);
+      if (model::at_end(text, pos) || line_endings_.length_at(text, pos) != 0) {
+        return {pos, 0};
+      }
+      if (std::size_t const length = delimiters_.length_at(text, pos)) {
+        return {pos, length};
+      }
+    }
+  }
+
+  /// The position behind the quoted text that begins at `pos`; a doubled quote goes on with it.
+  /// The end of the text when a quote never closes.
+  [[nodiscard]] std::size_t skip_quoted(std::u16string_view const text, std::size_t pos) const {
+    do {
+      pos = model::find_unit(text, pos + 1, quote_);
+      if (model::at_end(text, pos)) {
+        return pos;
+      }
+      ++pos;
+    } while (model::unit_at(text, pos) == quote_);
+    return pos;
+  }
+
+  /// The start of what follows the delimiter behind field number `field_index`.
+  [[nodiscard]] std::size_t after_delimiter(std::u16string_view const text, FieldEnd const field,
+                                            std::size_t const field_index, TrailingRun& run) const {
+    std::size_t pos = field.end + field.delimiter_length;
+    if constexpr (Rule == enums::ConsecutiveDelimitersRule::Join) {
+      pos = skip_delimiters(text, pos, delimiters_);
+    } else if constexpr (Rule == enums::ConsecutiveDelimitersRule::Error) {
+      reader_.template handle_consecutive_delimiters<Rule>(Field(text), field_index, pos,
+                                                           run.pending, run.first);
+    }
+    return pos;
+  }
+
+  parser::DelimitedRecordReader const& reader_;
+  Delimiters const& delimiters_;
+  LineEndings const& line_endings_;
+  char16_t quote_;
+  model::UnitSet stops_;
+};
+
+/// Calls `use` with the scanner for the reader's matchers and its consecutive-delimiters rule.
+template <class Use>
+auto with_scanner(parser::DelimitedRecordReader const& reader, Use use) {
+  return std::visit(
+      [&](auto const& delimiters, auto const& line_endings) {
+        using enums::ConsecutiveDelimitersRule;
+        using Delimiters = std::decay_t<decltype(delimiters)>;
+        using LineEndings = std::decay_t<decltype(line_endings)>;
+        switch (reader.options().consecutive_delimiters_rule) {
+          case ConsecutiveDelimitersRule::Join:
+            return use(DelimitedScanner<ConsecutiveDelimitersRule::Join, Delimiters, LineEndings>(
+                reader, delimiters, line_endings));
+          case ConsecutiveDelimitersRule::Error:
+            return use(DelimitedScanner<ConsecutiveDelimitersRule::Error, Delimiters, LineEndings>(
+                reader, delimiters, line_endings));
+          case ConsecutiveDelimitersRule::Split:
+          default:
+            return use(DelimitedScanner<ConsecutiveDelimitersRule::Split, Delimiters, LineEndings>(
+                reader, delimiters, line_endings));
+        }
+      },
+      reader.delimiters().mode(), reader.line_endings().mode());
+}
+
+}  // namespace textio::reading

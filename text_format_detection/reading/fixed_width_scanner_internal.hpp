@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: MIT
+//
+// The scan of one fixed-width record: one field a column, as far as the line reaches. What the line
+// holds behind the last column is one more field, unless it is blank.
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <string_view>
+#include <type_traits>
+#include <variant>
+
+#include "text_format_detection/model/errors.hpp"
+#include "text_format_detection/model/text_view_internal.hpp"
+#include "text_format_detection/platform/record_readers.hpp"
+#include "text_format_detection/reading/record_store_internal.hpp"
+
+namespace textio::reading {
+
+/// `LineEndings` is a mode of DelimiterMatcher.
+template <class LineEndings>
+class FixedWidthScanner {
+ public:
+  FixedWidthScanner(parser::FixedWidthRecordReader const& reader, LineEndings const& line_endings)
+      : options_(reader.options()),
+        line_endings_(line_endings),
+        stops_(model::UnitSet(reader.stop_characters()).with_end_mark()),
+        whitespace_(options_.whitespace) {}
+
+  /// Scans the record at the start of `text`. Throws partial_field_error under the rule Error.
+  void scan(std::u16string_view const text, RecordScan& scan) const {
+    scan.clear();
+    std::size_t pos = 0;
+    for (std::size_t const width : options_.column_widths) {
+      Column const column = cut_column(text, pos, width);
+      if (column.ending != 0) {
+        end_inside_column(pos, column, scan);
+        return;
+      }
+      scan.add_field(pos, column.end);
+      pos = column.end;
+      if (finish_at(text, pos, scan)) {
+        return;
+      }
+    }
+    scan_rest_of_line(text, pos, scan);
+  }
+
+  /// Fixed-width records have no delimiters to be ignored.
+  [[nodiscard]] std::size_t skip_ignored_delimiters(std::u16string_view /*text*/,
+                                                    std::size_t const pos) const {
+    return pos;
+  }
+
+ private:
+  struct Column {
+    std::size_t end;
+    std::size_t ending;  // the length of the line ending that cuts the column short, or 0
+  };
+
+  /// Whether a line ending inside a column is part of the field.
+  [[nodiscard]] bool wraps() const noexcept {
+    return options_.partial_field_rule == enums::PartialFieldRule::Wrap ||
+           options_.partial_field_rule > enums::PartialFieldRule::Error;
+  }
+
+  /// The column that begins at `pos`, cut at a line ending or at the end of the text.
+  [[nodiscard]] Column cut_column(std::u16string_view const text, std::size_t pos,
+                                  std::size_t const width) const {
+    std::size_t const limit = pos + std::min(width, text.size() - pos);
+    std::u16string_view const column = text.substr(0, limit);
+    for (pos = model::find_member(column, pos, stops_); !model::at_end(column, pos);
+         pos = model::find_member(column, pos + 1, stops_)) {
+      std::size_t const ending = wraps() ? 0 : line_endings_.length_at(text, pos);
+      if (ending != 0) {
+        return {pos, ending};
+      }
+    }
+    return {pos, 0};
+  }
+
+  /// The record's line ends inside the column that begins at `pos`.
+  void end_inside_column(std::size_t const pos, Column const column, RecordScan& scan) const {
+    switch (options_.partial_field_rule) {
+      case enums::PartialFieldRule::DropField:
+        scan.status = RecordScan::Status::FieldDropped;
+        break;
+      case enums::PartialFieldRule::DropRecord:
+        scan.status = RecordScan::Status::RecordDropped;
+        break;
+      case enums::PartialFieldRule::FillMissing:
+        scan.status = RecordScan::Status::Missing;
+        break;
+      case enums::PartialFieldRule::Error:
+        throw parser::exception::partial_field_error(0, scan.num_fields(), {}, u"\\n");
+      case enums::PartialFieldRule::Keep:
+      case enums::PartialFieldRule::Wrap:  // not asked: such columns are not cut
+        scan.add_field(pos, column.end);
+        break;
+    }
+    scan.occupied = column.end + column.ending;
+  }
+
+  /// Ends the record at `pos` if the line or the text ends there.
+  [[nodiscard]] bool finish_at(std::u16string_view const text, std::size_t const pos,
+                               RecordScan& scan) const {
+    std::size_t const ending = line_endings_.length_at(text, pos);
+    if (ending == 0 && !model::at_end(text, pos)) {
+      return false;
+    }
+    scan.occupied = pos + ending + end_of_text_length(text, pos);
+    return true;
+  }
+
+  void scan_rest_of_line(std::u16string_view const text, std::size_t const pos,
+                         RecordScan& scan) const {
+    std::size_t end = model::find_member(text, pos, stops_);
+    while (!finish_at(text, end, scan)) {
+      end = model::find_member(text, end + 1, stops_);
+    }
+    if (!model::consists_of(text.substr(pos, end - pos), whitespace_)) {
+      scan.add_field(pos, end);
+    }
+  }
+
+  /// What a record occupies behind the end of the text: one unit when the end mark itself is the
+  /// line ending, which is what is read there.
+  [[nodiscard]] std::size_t end_of_text_length(std::u16string_view const text,
+                                               std::size_t const pos) const noexcept {
+    if constexpr (std::is_same_v<LineEndings, DelimiterMatcher::SingleUnit>) {
+      return pos == text.size() && line_endings_.unit == end_mark ? 1 : 0;
+    } else {
+      return 0;
+    }
+  }
+
+  parser::options const& options_;
+  LineEndings const& line_endings_;
+  model::UnitSet stops_;
+  model::UnitSet whitespace_;
+};
+
+/// Calls `use` with the scanner for the reader's matcher.
+template <class Use>
+auto with_scanner(parser::FixedWidthRecordReader const& reader, Use use) {
+  return std::visit(
+      [&](auto const& line_endings) { return use(FixedWidthScanner(reader, line_endings)); },
+      reader.line_endings().mode());
+}
+
+}  // namespace textio::reading
