@@ -17,7 +17,9 @@ target_compile_options(
             -Wshadow
             -Wnon-virtual-dtor
             -Wold-style-cast
-            -Woverloaded-virtual)
+            -Woverloaded-virtual
+            # g++ means designated initializers too
+            -Wno-missing-field-initializers)
 
 if(TFD_SANITIZE)
   set(tfd_sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all)
