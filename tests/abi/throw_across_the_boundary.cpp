@@ -85,7 +85,7 @@ options strict_options() {
   return strict;
 }
 
-TEST(throw_across_the_boundary, from_read_records) {
+TEST(ThrowAcrossTheBoundary, FromReadRecords) {
   struct Row {
     enums::StrategyMode mode;
     std::u16string_view text;
@@ -110,7 +110,7 @@ TEST(throw_across_the_boundary, from_read_records) {
   }
 }
 
-TEST(throw_across_the_boundary, from_handle_consecutive_delimiters) {
+TEST(ThrowAcrossTheBoundary, FromHandleConsecutiveDelimiters) {
   options const strict = strict_options();
   textio::parser::DelimitedRecordReader const reader(strict);
   expect_error(
@@ -124,7 +124,7 @@ TEST(throw_across_the_boundary, from_handle_consecutive_delimiters) {
       {"consecutive_delimiters_error", 0, 0, u""});
 }
 
-TEST(library_version, is_the_one_of_the_headers) {
+TEST(LibraryVersion, IsTheOneOfTheHeaders) {
   EXPECT_STREQ(textio::library_version(), TEXT_FORMAT_DETECTION_VERSION);
 }
 
