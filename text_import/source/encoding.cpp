@@ -1,41 +1,226 @@
 // SPDX-License-Identifier: MIT
+//
+// The tests in their order. UTF-8 stands before every guess, because text in another encoding is
+// hardly ever well-formed UTF-8, while statistics take short UTF-8 for many things. Guesses are
+// corrected where the bytes themselves speak against them.
 #include "text_import/source/encoding.hpp"
 
+#include <algorithm>
 #include <array>
+#include <memory>
+#include <new>
+#include <optional>
+#include <utility>
+
+#include <uchardet.h>
 
 #include "text_import/import_error.hpp"
+#include "text_import/source/decoder_internal.hpp"
+#include "text_import/source/encoding_evidence_internal.hpp"
+#include "text_import/source/encoding_names_internal.hpp"
 
 namespace textimport {
 namespace {
+
+using namespace std::string_view_literals;
+
+constexpr char const* fallback_encoding = "windows-1252";
 
 struct byte_order_mark {
   std::string_view bytes;
   char const* encoding;
 };
 
-using namespace std::string_view_literals;
-
-constexpr std::array<byte_order_mark, 3> marks = {{
+// UTF-32LE before UTF-16LE, whose mark it begins with.
+constexpr std::array<byte_order_mark, 6> marks = {{
     {"\xEF\xBB\xBF"sv, "UTF-8"},
+    {"\xFF\xFE\0\0"sv, "UTF-32LE"},
+    {"\0\0\xFE\xFF"sv, "UTF-32BE"},
     {"\xFF\xFE"sv, "UTF-16LE"},
     {"\xFE\xFF"sv, "UTF-16BE"},
+    {"\x84\x31\x95\x33"sv, "GB18030"},
 }};
+
+byte_order_mark const* mark_of(std::string_view const head) {
+  for (byte_order_mark const& mark : marks) {
+    // The first two bytes of UTF-32LE may also be UTF-16LE with a NUL character in front.
+    bool const is_doubtful = mark.bytes == "\xFF\xFE\0\0"sv && !looks_like_utf32(head, false);
+    if (head.starts_with(mark.bytes) && !is_doubtful) {
+      return &mark;
+    }
+  }
+  return nullptr;
+}
+
+std::optional<std::string> by_nul_pattern(std::string_view const head) {
+  if (head.find('\0') == std::string_view::npos) {
+    return std::nullopt;
+  }
+  for (bool const big_endian : {false, true}) {
+    if (looks_like_utf32(head, big_endian)) {
+      return big_endian ? "UTF-32BE" : "UTF-32LE";
+    }
+  }
+  for (bool const big_endian : {false, true}) {
+    if (looks_like_utf16(head, big_endian)) {
+      return big_endian ? "UTF-16BE" : "UTF-16LE";
+    }
+  }
+  return std::nullopt;
+}
+
+std::string statistical_answer(std::string_view const head) {
+  std::unique_ptr<uchardet, decltype(&uchardet_delete)> const detector(uchardet_new(),
+                                                                       uchardet_delete);
+  if (detector == nullptr || uchardet_handle_data(detector.get(), head.data(), head.size()) != 0) {
+    throw std::bad_alloc();
+  }
+  uchardet_data_end(detector.get());
+  return uchardet_get_charset(detector.get());
+}
+
+bool has_byte_between(std::string_view const bytes, unsigned char const first,
+                      unsigned char const last) {
+  return std::any_of(bytes.begin(), bytes.end(), [=](char const c) {
+    auto const byte = static_cast<unsigned char>(c);
+    return byte >= first && byte <= last;
+  });
+}
+
+// An ISO encoding and the Windows one that has nearly the same letters and, in place of 32 control
+// characters that no text uses, more characters.
+struct iso_and_windows {
+  std::string_view iso;
+  char const* windows;
+};
+
+constexpr std::array<iso_and_windows, 6> iso_and_windows_pairs = {{
+    {"ISO-8859-2", "windows-1250"},
+    {"ISO-8859-7", "windows-1253"},
+    {"ISO-8859-8", "windows-1255"},
+    {"ISO-8859-9", "windows-1254"},
+    {"ISO-8859-13", "windows-1257"},
+    {"ISO-8859-15", "windows-1252"},
+}};
+
+/// What the bytes make of a statistical answer.
+std::string corrected(std::string const& answer, std::string_view const head) {
+  if (answer == "ISO-8859-1") {
+    return "windows-1252";  // every text in the one is the same text in the other
+  }
+  bool const has_windows_bytes = has_byte_between(head, 0x80, 0x9F);
+  for (iso_and_windows const& pair : iso_and_windows_pairs) {
+    if (answer == pair.iso && has_windows_bytes) {
+      return pair.windows;
+    }
+  }
+  // Letters in ISO-8859-2 that are signs in windows-1250, as in Polish and Czech words.
+  constexpr std::string_view only_iso_letters = "\xA1\xA6\xA9\xAB\xAC\xAE\xB1\xB5\xB6\xBB"sv;
+  if (answer == "windows-1250" && !has_windows_bytes &&
+      head.find_first_of(only_iso_letters) != std::string_view::npos) {
+    return "ISO-8859-2";
+  }
+  return answer;
+}
+
+/// True when hardly a byte of the text is bad in the encoding.
+bool fits(std::string const& encoding, std::string_view const head, bool const complete) {
+  decoder trial(encoding, 0, false, {});
+  std::u16string text;
+  trial.decode(head, complete, text);
+  auto const non_ascii = static_cast<std::uint64_t>(
+      std::count_if(head.begin(), head.end(), [](char const c) { return c < 0; }));
+  return trial.counts().bad_bytes * 16 <= non_ascii;
+}
+
+/// The encoding that the statistics name, if it can be believed.
+std::optional<std::string> by_statistics(std::string_view const head, bool const complete) {
+  std::string const answer = statistical_answer(head);
+  // Its words for "no idea", and for what was excluded before.
+  if (answer.empty() || answer == "ASCII" || answer.starts_with("UTF-")) {
+    return std::nullopt;
+  }
+  std::string const known = usual_encoding_name(answer == "UHC" ? "windows-949" : answer);
+  if (known.empty()) {
+    return std::nullopt;
+  }
+  std::string const encoding = corrected(known, head);
+  return fits(encoding, head, complete) ? std::optional(encoding) : std::nullopt;
+}
+
+encoding_finding guess(std::string_view const head, bool const complete) {
+  if (auto const name = by_statistics(head, complete)) {
+    return {*name, encoding_reason::Statistics,
+            "the text is not UTF-8, and its bytes are frequent in this encoding", 0};
+  }
+  return {fallback_encoding, encoding_reason::Fallback,
+          "the text is not UTF-8, and its bytes do not tell what it is", 0};
+}
+
+[[noreturn]] void throw_unknown(std::string const& name, std::string const& path) {
+  std::vector<std::string> near = near_encoding_names(name);
+  std::string const introduction = near.empty() ? "usual ones are " : "near ones are ";
+  if (near.empty()) {
+    near = {"UTF-8", "UTF-16LE", "windows-1252", "ISO-8859-1", "Shift_JIS", "GB18030"};
+  }
+  std::string list;
+  for (std::string const& candidate : near) {
+    list += (list.empty() ? "" : ", ") + candidate;
+  }
+  throw import_error(import_error_kind::UnknownEncoding, path,
+                     "there is no encoding \"" + name + "\"; " + introduction + list);
+}
 
 }  // namespace
 
-encoding_finding find_encoding(std::string_view const head, bool const /*complete*/) {
-  for (byte_order_mark const& mark : marks) {
-    if (head.starts_with(mark.bytes)) {
-      return {mark.encoding, encoding_reason::ByteOrderMark,
-              "the file begins with a byte-order mark", mark.bytes.size()};
-    }
+encoding_finding find_encoding(std::string_view const head, bool const complete) {
+  if (byte_order_mark const* const mark = mark_of(head)) {
+    return {mark->encoding, encoding_reason::ByteOrderMark,
+            "the file begins with a byte-order mark", mark->bytes.size()};
   }
-  return {"UTF-8", encoding_reason::ValidUtf8, "the text is well-formed UTF-8", 0};
+  if (auto const name = by_nul_pattern(head)) {
+    return {*name, encoding_reason::NulPattern, "every few bytes are NUL, in the order of " + *name,
+            0};
+  }
+  utf8_evidence const utf8 = examine_utf8(head, complete);
+  if (utf8.faults == 0 && utf8.sequences == 0) {
+    // ASCII with escapes may be text that shifts to other characters by them.
+    auto const shifting = utf8.has_escapes ? by_statistics(head, complete) : std::nullopt;
+    return shifting ? encoding_finding{*shifting, encoding_reason::Statistics,
+                                       "the text shifts to other characters by escapes", 0}
+                    : encoding_finding{"UTF-8", encoding_reason::OnlyAscii,
+                                       "all characters are ASCII", 0};
+  }
+  if (utf8.faults == 0) {
+    return {"UTF-8", encoding_reason::ValidUtf8, "all of the text is well-formed UTF-8", 0};
+  }
+  if (utf8.sequences > 4 * utf8.faults) {
+    return {"UTF-8", encoding_reason::MostlyUtf8,
+            "nearly all characters beyond ASCII are well-formed UTF-8", 0};
+  }
+  return guess(head, complete);
 }
 
-encoding_finding given_encoding(std::string const& name, std::string_view const /*head*/,
-                                std::string const& /*path*/) {
-  return {name, encoding_reason::Given, "the encoding was given", 0};
+encoding_finding given_encoding(std::string const& name, std::string_view const head,
+                                std::string const& path) {
+  encoding_finding finding{usual_encoding_name(name), encoding_reason::Given,
+                           "the encoding was given", 0};
+  if (finding.name.empty()) {
+    throw_unknown(name, path);
+  }
+  byte_order_mark const* const mark = mark_of(head);
+  if (finding.name == "UTF-16" || finding.name == "UTF-32") {
+    std::string const family = std::exchange(finding.name, finding.name + "BE");
+    std::string const found =
+        mark != nullptr ? mark->encoding : by_nul_pattern(head).value_or(std::string{});
+    if (found.starts_with(family)) {
+      finding.name = found;
+    }
+  }
+  if (mark != nullptr && finding.name == usual_encoding_name(mark->encoding)) {
+    finding.mark_bytes = mark->bytes.size();
+  }
+  return finding;
 }
 
 char const* name_of(encoding_reason const reason) noexcept {
@@ -61,7 +246,7 @@ char const* name_of(encoding_reason const reason) noexcept {
 }
 
 std::vector<std::string> encoding_names() {
-  return {"UTF-16BE", "UTF-16LE", "UTF-8"};
+  return all_encoding_names();
 }
 
 }  // namespace textimport
