@@ -37,7 +37,7 @@ std::optional<CommentMatcher::Comment> CommentMatcher::match(std::u16string_view
     return Comment{find_line_ending(text, content), 1};
   }
   std::size_t const end = find_block_end(text, content);
-  return Comment{end, 1 + count_line_endings(text.substr(pos, end - pos))};
+  return Comment{end, 1 + count_line_endings(text, pos, end)};
 }
 
 std::size_t CommentMatcher::find_line_ending(std::u16string_view const text,
@@ -57,11 +57,13 @@ std::size_t CommentMatcher::find_block_end(std::u16string_view const text, std::
   return pos;
 }
 
-std::size_t CommentMatcher::count_line_endings(std::u16string_view const comment) const {
+std::size_t CommentMatcher::count_line_endings(std::u16string_view const text, std::size_t pos,
+                                               std::size_t const end) const {
   std::size_t count = 0;
-  for (std::size_t pos = 0; pos < comment.size();) {
-    std::size_t const length = line_endings_->length_at(comment, pos);
-    count += static_cast<std::size_t>(length != 0);
+  while (pos < end) {
+    std::size_t const length = line_endings_->length_at(text, pos);
+    bool const lies_inside = length != 0 && length <= end - pos;
+    count += static_cast<std::size_t>(lies_inside);
     pos += length != 0 ? length : 1;
   }
   return count;

@@ -33,7 +33,9 @@ class CommentMatcher {
  private:
   [[nodiscard]] std::size_t find_line_ending(std::u16string_view text, std::size_t pos) const;
   [[nodiscard]] std::size_t find_block_end(std::u16string_view text, std::size_t pos) const;
-  [[nodiscard]] std::size_t count_line_endings(std::u16string_view comment) const;
+  /// The line endings of the text that lie wholly between the positions.
+  [[nodiscard]] std::size_t count_line_endings(std::u16string_view text, std::size_t pos,
+                                               std::size_t end) const;
 
   std::u16string opening_;
   std::u16string closing_;

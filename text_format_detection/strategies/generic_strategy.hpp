@@ -60,10 +60,15 @@ class TFD_API GenericStrategy {
   /// The number of variables (columns) of the data, or `unknown_count` before the scoring.
   [[nodiscard]] std::size_t num_variables() const noexcept;
 
-  /// One ColumnType code for each variable, left to right; empty before the scoring.
+  /// One ColumnType code for each variable, left to right; empty before the scoring. Undecided
+  /// throughout when the scoring found no table to inspect (see has_inspected_columns).
   [[nodiscard]] std::vector<unsigned char> const& column_types() const noexcept {
     return column_types_;
   }
+
+  /// True once the scoring has looked at the values of the columns. It does not when there are no
+  /// records, nor when header lines are to be detected and every line holds one field.
+  [[nodiscard]] bool has_inspected_columns() const noexcept { return columns_inspected_; }
 
   /// The fields of the sample, owned by the strategy; null before the sampling.
   [[nodiscard]] FieldArray* field_array() const noexcept { return field_array_.get(); }
@@ -123,6 +128,7 @@ class TFD_API GenericStrategy {
   bool field_array_set_ = false;
   enums::StrategyMode mode_;
   std::vector<unsigned char> column_types_;
+  bool columns_inspected_ = false;
 };
 
 }  // namespace textio

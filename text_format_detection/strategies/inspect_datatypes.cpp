@@ -119,6 +119,7 @@ void GenericStrategy::inspect_datatypes() {
     }
   }
   column_types_ = types.take_codes();
+  columns_inspected_ = true;
   count_types(column_types_, valuation_);
 }
 
