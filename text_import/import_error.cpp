@@ -21,6 +21,8 @@ char const* name_of(import_error_kind const kind) noexcept {
       return "truncated_compression";
     case import_error_kind::DamagedCompression:
       return "damaged_compression";
+    case import_error_kind::WrongChecksum:
+      return "wrong_checksum";
     case import_error_kind::NestedCompression:
       return "nested_compression";
     case import_error_kind::SeveralMembers:

@@ -20,7 +20,8 @@ enum class import_error_kind : std::uint8_t {
   OpenFailed,            ///< any other failure to open
   ReadFailed,            ///< the system reported an error while reading
   TruncatedCompression,  ///< compressed data end too early
-  DamagedCompression,    ///< compressed data are not what they should be; a wrong checksum too
+  DamagedCompression,    ///< compressed data are not what they should be
+  WrongChecksum,         ///< compressed data are complete, but not what was once compressed
   NestedCompression,     ///< compressed data or an archive inside compressed data
   SeveralMembers,        ///< an archive with several members, and none was named
   MemberNotFound,        ///< no such member, or no archive at all

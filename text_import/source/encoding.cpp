@@ -140,7 +140,7 @@ std::optional<std::string> by_statistics(std::string_view const head, bool const
   if (answer.empty() || answer == "ASCII" || answer.starts_with("UTF-")) {
     return std::nullopt;
   }
-  std::string const known = usual_encoding_name(answer == "UHC" ? "windows-949" : answer);
+  std::string const known = answer == "UHC" ? "windows-949" : usual_encoding_name(answer);
   if (known.empty()) {
     return std::nullopt;
   }
@@ -151,10 +151,10 @@ std::optional<std::string> by_statistics(std::string_view const head, bool const
 encoding_finding guess(std::string_view const head, bool const complete) {
   if (auto const name = by_statistics(head, complete)) {
     return {*name, encoding_reason::Statistics,
-            "the text is not UTF-8, and its bytes are frequent in this encoding", 0};
+            "the bytes are not UTF-8, and their frequencies speak for " + *name, 0};
   }
   return {fallback_encoding, encoding_reason::Fallback,
-          "the text is not UTF-8, and its bytes do not tell what it is", 0};
+          "the bytes are not UTF-8, and do not tell what they are", 0};
 }
 
 [[noreturn]] void throw_unknown(std::string const& name, std::string const& path) {

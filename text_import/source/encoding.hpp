@@ -57,7 +57,7 @@ struct encoding_finding {
                                                               std::string_view head,
                                                               std::string const& path);
 
-/// The known encodings, one usual name for each, sorted.
+/// The standard names of the known encodings, sorted. Others are known by their vendors' names.
 [[nodiscard]] TEXT_IMPORT_API std::vector<std::string> encoding_names();
 
 }  // namespace textimport

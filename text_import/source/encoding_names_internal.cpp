@@ -73,27 +73,35 @@ std::vector<std::string> aliases_of(char const* const converter) {
   return names;
 }
 
+/// The name in the registries of the internet; empty for what only one vendor uses.
+std::string standard_name(std::string const& name) {
+  for (char const* const registry : {"MIME", "IANA"}) {
+    UErrorCode status = U_ZERO_ERROR;
+    char const* const found = ucnv_getStandardName(name.c_str(), registry, &status);
+    if (found != nullptr) {
+      return found;
+    }
+  }
+  return {};
+}
+
 }  // namespace
 
 std::string usual_encoding_name(std::string const& name) {
   UErrorCode status = U_ZERO_ERROR;
-  if (name.empty() || ucnv_countAliases(name.c_str(), &status) == 0) {
+  // Behind a comma stand options of the conversion library.
+  if (name.empty() || name.find(',') != std::string::npos ||
+      ucnv_countAliases(name.c_str(), &status) == 0) {
     return {};
   }
-  for (char const* const standard : {"MIME", "IANA"}) {
-    status = U_ZERO_ERROR;
-    char const* const standard_name = ucnv_getStandardName(name.c_str(), standard, &status);
-    if (standard_name != nullptr) {
-      return standard_name;
-    }
-  }
-  return name;
+  std::string standard = standard_name(name);
+  return standard.empty() ? name : standard;
 }
 
 std::vector<std::string> all_encoding_names() {
   std::set<std::string> names;
   for (std::int32_t i = 0; i < ucnv_countAvailable(); ++i) {
-    names.insert(usual_encoding_name(ucnv_getAvailableName(i)));
+    names.insert(standard_name(ucnv_getAvailableName(i)));
   }
   names.erase(std::string{});
   return {names.begin(), names.end()};
@@ -105,12 +113,16 @@ std::vector<std::string> near_encoding_names(std::string_view const name) {
   std::set<std::pair<std::size_t, std::string>> ranked;
   for (std::int32_t i = 0; i < ucnv_countAvailable(); ++i) {
     char const* const converter = ucnv_getAvailableName(i);
+    std::string const standard = standard_name(converter);
+    if (standard.empty()) {
+      continue;
+    }
     std::size_t nearest = max_penalty + 1;
     for (std::string const& alias : aliases_of(converter)) {
       nearest = std::min(nearest, penalty(wanted, normalized(alias)));
     }
     if (nearest <= max_penalty) {
-      ranked.emplace(nearest, usual_encoding_name(converter));
+      ranked.emplace(nearest, standard);
     }
   }
   std::vector<std::string> names;

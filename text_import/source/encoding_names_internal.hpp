@@ -13,10 +13,10 @@ namespace textimport {
 /// and underscores alike); empty when none has.
 std::string usual_encoding_name(std::string const& name);
 
-/// One usual name for each known encoding, sorted.
+/// The standard names of the known encodings, sorted.
 std::vector<std::string> all_encoding_names();
 
-/// The usual names of the encodings with a name near `name`, the nearest first, at most five.
+/// The standard names of the encodings with a name near `name`, the nearest first, at most five.
 std::vector<std::string> near_encoding_names(std::string_view name);
 
 }  // namespace textimport

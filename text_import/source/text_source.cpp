@@ -12,7 +12,9 @@
 #include <utility>
 
 #include "text_import/import_error.hpp"
+#include "text_import/source/binary_content_internal.hpp"
 #include "text_import/source/decoder_internal.hpp"
+#include "text_import/source/decompression_internal.hpp"
 
 namespace textimport {
 namespace {
@@ -20,7 +22,8 @@ namespace {
 /// Damage behind text that was delivered does not take that text away.
 bool leaves_text_usable(import_error_kind const kind) {
   return kind == import_error_kind::DamagedCompression ||
-         kind == import_error_kind::TruncatedCompression;
+         kind == import_error_kind::TruncatedCompression ||
+         kind == import_error_kind::WrongChecksum;
 }
 
 /// The length of `text` up to and with its last line ending, 0 without any. A CR at the very end
@@ -31,6 +34,40 @@ std::size_t whole_lines(std::u16string_view const text) {
   }
   std::size_t const searched = text.back() == u'\r' ? text.size() - 1 : text.size();
   return text.substr(0, searched).find_last_of(u"\r\n") + 1;
+}
+
+/// What stands behind a colon is the name of a member, if what stands in front of it is a file.
+/// Sets `path` and `member` to the two parts, at the first such colon; null without any.
+std::unique_ptr<byte_source> open_archive_of_member(std::string& path, std::string& member) {
+  for (std::size_t colon = path.find(':', 1); colon != std::string::npos;
+       colon = path.find(':', colon + 1)) {
+    try {
+      std::unique_ptr<byte_source> bytes = open_bytes(path.substr(0, colon));
+      member = path.substr(colon + 1);
+      path.resize(colon);
+      return bytes;
+    } catch (import_error const& error) {
+      if (error.kind() != import_error_kind::FileNotFound &&
+          error.kind() != import_error_kind::IsDirectory) {
+        throw;
+      }
+    }
+  }
+  return nullptr;
+}
+
+/// Opens a file, or the archive in front of a member's name where there is no file of that name.
+std::unique_ptr<byte_source> open_file_or_archive(std::string& path, std::string& member) {
+  try {
+    return open_bytes(path);
+  } catch (import_error const& error) {
+    if (error.kind() == import_error_kind::FileNotFound && member.empty()) {
+      if (std::unique_ptr<byte_source> bytes = open_archive_of_member(path, member)) {
+        return bytes;
+      }
+    }
+    throw;
+  }
 }
 
 void count_characters(std::u16string_view const text, text_findings& findings) {
@@ -59,10 +96,9 @@ void count_characters(std::u16string_view const text, text_findings& findings) {
 }  // namespace
 
 struct text_source::state {
-  state(std::unique_ptr<byte_source> source, std::string name, open_options const& given)
-      : bytes(std::move(source)), path(std::move(name)), options(given) {}
+  state(std::string name, open_options const& given) : path(std::move(name)), options(given) {}
 
-  void open();
+  void open(std::unique_ptr<byte_source> raw);
   std::size_t deliver(char16_t* room, std::size_t capacity);
 
   std::unique_ptr<byte_source> bytes;
@@ -90,17 +126,30 @@ struct text_source::state {
   bool at_end = false;
 };
 
-void text_source::state::open() {
+void text_source::state::open(std::unique_ptr<byte_source> raw) {
+  decompressed_bytes opened = decompress(std::move(raw), path, options, findings.warnings);
+  bytes = std::move(opened.bytes);
+  findings.compression = std::move(opened.compression);
+  findings.member = std::move(opened.member);
   std::string head;
   read_head(head);
+  refuse_binary_format(head, findings.compression, path);
   look_behind_head();
   findings.bytes_read = head.size();
+  if (findings.goes_on && findings.compression == "zip" && options.member.empty() && !failure) {
+    findings.warnings.emplace_back(
+        "the first member of the archive is larger than the sample; whether others follow it was "
+        "not looked at");
+  }
   find_encoding_of(head);
   decoding.emplace(findings.encoding.name, findings.encoding.mark_bytes, options.strict, path);
   head_text.reserve(head.size());
   decoding->decode(std::string_view(head).substr(findings.encoding.mark_bytes), !findings.goes_on,
                    head_text);
   findings.decoding = decoding->counts();
+  if (options.encoding.empty()) {
+    refuse_control_characters(head_text, path);
+  }
   cut_sample();
   count_characters({head_text.data(), sample_length}, findings);
   undelivered = head_text;
@@ -146,6 +195,7 @@ void text_source::state::note_failure(import_error const& error, bool const afte
     throw;  // the error that is being handled
   }
   failure = std::current_exception();
+  at_end = error.kind() == import_error_kind::WrongChecksum;  // the text itself is complete
   findings.warnings.push_back(error.message());
 }
 
@@ -206,13 +256,16 @@ text_source& text_source::operator=(text_source&&) noexcept = default;
 text_source::~text_source() = default;
 
 text_source text_source::open(std::string const& path, open_options const& options) {
-  return open(open_bytes(path), path, options);
+  std::string file = path;
+  open_options file_options = options;
+  std::unique_ptr<byte_source> bytes = open_file_or_archive(file, file_options.member);
+  return open(std::move(bytes), file, file_options);
 }
 
 text_source text_source::open(std::unique_ptr<byte_source> bytes, std::string const& path,
                               open_options const& options) {
-  auto opened = std::make_shared<state>(std::move(bytes), path, options);
-  opened->open();
+  auto opened = std::make_shared<state>(path, options);
+  opened->open(std::move(bytes));
   return text_source(std::move(opened));
 }
 

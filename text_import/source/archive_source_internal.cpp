@@ -1,0 +1,263 @@
+// SPDX-License-Identifier: MIT
+//
+// Exceptions must not pass through libarchive, which is written in C: an error of the bytes below
+// is kept when it is met in the callback, and thrown when libarchive comes back with its own.
+#include "text_import/source/archive_source_internal.hpp"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <clocale>
+#include <new>
+#include <utility>
+
+#include <archive.h>
+#include <archive_entry.h>
+
+namespace textimport {
+namespace {
+
+using namespace std::string_view_literals;
+
+constexpr std::size_t max_listed_members = 20;
+
+/// While it lives, names beyond ASCII can be read, whatever the locale of the program. Holds for
+/// the calling thread only.
+class utf8_names {
+ public:
+  utf8_names() : locale_(::newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr)) {
+    previous_ = ::uselocale(locale_);  // without that locale: nothing changes
+  }
+
+  utf8_names(utf8_names const&) = delete;
+  utf8_names(utf8_names&&) = delete;
+  utf8_names& operator=(utf8_names const&) = delete;
+  utf8_names& operator=(utf8_names&&) = delete;
+
+  ~utf8_names() {
+    ::uselocale(previous_);
+    if (locale_ != nullptr) {
+      ::freelocale(locale_);
+    }
+  }
+
+ private:
+  locale_t locale_;
+  locale_t previous_ = nullptr;
+};
+
+// libarchive tells these cases apart in words only: its own, those of the xz library for a missing
+// end, zlib's number for it.
+constexpr std::array truncation_words = {"runcated"sv, "No progress is possible"sv, "(-5)"sv};
+// Checksums of what was delivered completely; others count as damage.
+constexpr std::array checksum_words = {"bad CRC"sv, "lz4 stream checksum"sv};
+constexpr std::array unsupported_words = {"nsupported"sv, "assphrase"sv, "ncrypt"sv};
+
+template <std::size_t Count>
+bool says_any_of(std::string_view const text, std::array<std::string_view, Count> const& words) {
+  return std::any_of(words.begin(), words.end(), [text](std::string_view const word) {
+    return text.find(word) != std::string_view::npos;
+  });
+}
+
+/// Folders, and what one system adds to archives beside each file, are no members to read.
+bool is_text_member(std::string_view const name) {
+  return !name.ends_with('/') && !name.starts_with("__MACOSX/");
+}
+
+}  // namespace
+
+void archive_source::member_names::add(std::string const& name) {
+  ++count;
+  if (first.size() < max_listed_members) {
+    first.push_back(name);
+  }
+}
+
+std::string archive_source::member_names::list() const {
+  std::string names;
+  for (std::string const& name : first) {
+    names += (names.empty() ? "" : ", ") + name;
+  }
+  return names + (count > first.size() ? " ..." : "");
+}
+
+archive_source::archive_source(std::unique_ptr<byte_source> raw, std::string const& path,
+                               std::string const& format, open_options const& options)
+    : decompressing_source(std::move(raw), path, format, options),
+      handle_(archive_read_new(), archive_read_free),
+      is_zip_(format == "zip"),
+      is_member_named_(!options.member.empty()) {
+  if (handle_ == nullptr) {
+    throw std::bad_alloc();
+  }
+  set_up(format);
+  if (archive_read_open(handle_.get(), this, nullptr, deliver_block, nullptr) != ARCHIVE_OK) {
+    fail();
+  }
+  find_member(options.member);
+}
+
+archive_source::~archive_source() = default;
+
+void archive_source::set_up(std::string const& format) {
+  struct format_support {
+    std::string_view name;
+    int (*enable)(archive*);
+  };
+
+  constexpr format_support filters[] = {
+      {"bzip2", archive_read_support_filter_bzip2},
+      {"xz", archive_read_support_filter_xz},
+      {"zstd", archive_read_support_filter_zstd},
+      {"lz4", archive_read_support_filter_lz4},
+  };
+  for (format_support const& filter : filters) {
+    if (filter.name == format) {
+      filter.enable(handle_.get());
+    }
+  }
+  if (is_zip_) {
+    archive_read_support_format_zip_streamable(handle_.get());
+  } else {
+    archive_read_support_format_raw(handle_.get());
+    archive_read_support_format_empty(handle_.get());  // raw alone refuses an empty text
+  }
+}
+
+long archive_source::deliver_block(archive* const handle, void* const self,
+                                   void const** const block) {
+  auto& source = *static_cast<archive_source*>(self);
+  try {
+    std::string_view const bytes = source.next_block();
+    *block = bytes.data();
+    return static_cast<long>(bytes.size());
+  } catch (...) {
+    source.raw_failure_ = std::current_exception();
+    archive_set_error(handle, EIO, "the file could not be read");
+    return ARCHIVE_FATAL;
+  }
+}
+
+/// Goes to the next member that could be a text; false behind the last one.
+bool archive_source::next_member(std::string& name) {
+  utf8_names const names_are_utf8;
+  archive_entry* entry = nullptr;
+  do {
+    int const result = archive_read_next_header(handle_.get(), &entry);
+    if (result == ARCHIVE_EOF) {
+      return false;
+    }
+    if (result != ARCHIVE_OK && result != ARCHIVE_WARN) {
+      fail();
+    }
+    char const* const pathname = archive_entry_pathname(entry);
+    name = pathname == nullptr ? "" : pathname;
+  } while (is_zip_ && !is_text_member(name));
+  if (archive_entry_is_data_encrypted(entry) != 0) {
+    throw error(import_error_kind::UnsupportedArchive,
+                "the member " + name + " of the archive is encrypted; unpack it first");
+  }
+  return true;
+}
+
+void archive_source::find_member(std::string const& wanted) {
+  member_names names;
+  std::string name;
+  while (next_member(name)) {
+    names.add(name);
+    if (wanted.empty() || name == wanted) {
+      has_data_ = true;
+      member_ = is_zip_ ? name : "";
+      // One filter and the end of their chain; more unpack what was packed twice.
+      if (archive_filter_count(handle_.get()) > 2) {
+        throw error(import_error_kind::NestedCompression,
+                    "packed twice: inside the " + format() + " data lies " + format() +
+                        " data; unpack the file once and try again");
+      }
+      return;
+    }
+  }
+  if (is_zip_) {
+    throw import_error(
+        import_error_kind::MemberNotFound, path(),
+        names.count == 0 ? "the zip archive holds no file"
+                         : "the zip archive has no member " + wanted + "; it has " + names.list());
+  }
+}
+
+void archive_source::expect_no_further_member() {
+  has_data_ = false;
+  if (!is_zip_ || is_member_named_) {
+    return;
+  }
+  member_names names;
+  std::string name = member_;
+  do {
+    names.add(name);
+  } while (next_member(name));
+  if (names.count > 1) {
+    throw import_error(import_error_kind::SeveralMembers, path(),
+                       "the zip archive has " + std::to_string(names.count) + " members (" +
+                           names.list() + "); name one of them behind the path, as in " + path() +
+                           ":" + names.first.front());
+  }
+}
+
+std::size_t archive_source::decompress(char* const room, std::size_t const capacity) {
+  while (data_.empty() && has_data_) {
+    if (late_failure_) {
+      std::rethrow_exception(late_failure_);
+    }
+    read_next_data();
+  }
+  std::size_t const length = data_.copy(room, capacity);
+  data_.remove_prefix(length);
+  return length;
+}
+
+void archive_source::read_next_data() {
+  void const* block = nullptr;
+  std::size_t length = 0;
+  la_int64_t offset = 0;
+  int const result = archive_read_data_block(handle_.get(), &block, &length, &offset);
+  if (result == ARCHIVE_EOF) {
+    expect_no_further_member();
+    return;
+  }
+  data_ = {static_cast<char const*>(block), length};
+  if (result == ARCHIVE_OK) {
+    return;
+  }
+  // A wrong checksum comes together with the last data.
+  try {
+    fail();
+  } catch (...) {
+    late_failure_ = std::current_exception();
+  }
+}
+
+void archive_source::fail() const {
+  if (raw_failure_) {
+    std::rethrow_exception(raw_failure_);
+  }
+  char const* const message = archive_error_string(handle_.get());
+  std::string const detail = message == nullptr ? "" : message;
+  if (archive_errno(handle_.get()) == ENOMEM) {
+    throw std::bad_alloc();
+  }
+  if (says_any_of(detail, truncation_words)) {
+    throw truncated();
+  }
+  if (says_any_of(detail, checksum_words)) {
+    throw wrong_checksum();
+  }
+  if (says_any_of(detail, unsupported_words)) {
+    throw error(
+        import_error_kind::UnsupportedArchive,
+        "the data are packed in a way that is unknown here (" + detail + "); unpack them first");
+  }
+  throw damaged(detail);
+}
+
+}  // namespace textimport
