@@ -1,0 +1,214 @@
+// SPDX-License-Identifier: MIT
+//
+// A reading that is given is built by hand and scored; everything else is the selector's decision.
+
+#include "cli/answer.hpp"
+
+#include <algorithm>
+#include <utility>
+
+#include "cli/contradictions.hpp"
+#include "cli/rule_check.hpp"
+#include "text_format_detection/detection/strategy_selector.hpp"
+#include "text_format_detection/model/field_array.hpp"
+#include "text_format_detection/reading/read_records.hpp"
+#include "text_format_detection/strategies/layout_strategies.hpp"
+
+namespace cli {
+
+namespace {
+
+using textio::detection::DetectionReport;
+using textio::detection::Outcome;
+using textio::detection::Reason;
+using textio::enums::StrategyMode;
+
+/// A strategy and how it came about.
+struct Finding {
+  std::shared_ptr<textio::GenericStrategy> strategy;
+  std::optional<DetectionReport> report;
+  Verdict verdict = Verdict::Given;
+  bool decided = true;
+};
+
+Verdict verdict_of(Reason const reason) {
+  switch (reason) {
+    case Reason::DateColumns:
+      return Verdict::DateColumns;
+    case Reason::NoRecords:
+      return Verdict::NoRecords;
+    case Reason::NoCandidates:
+      return Verdict::NoCandidates;
+    case Reason::Single:
+      return Verdict::Single;
+    case Reason::Ranked:
+      return Verdict::Ranked;
+    case Reason::Tie:
+      return Verdict::Tie;
+    case Reason::NoneLeft:
+      break;
+  }
+  return Verdict::NoneLeft;
+}
+
+Finding detect(textio::parser::options const& parsing, Settings const& settings,
+               textio::Field const& sample) {
+  Finding finding;
+  DetectionReport report;
+  textio::detection::StrategySelector selector(parsing, settings.types);
+  finding.strategy = selector.pick_strategy(sample, settings.records, report);
+  finding.verdict = verdict_of(report.reason);
+  finding.decided = report.outcome != Outcome::CommaFallback;
+  finding.report = std::move(report);
+  return finding;
+}
+
+/// A strategy built by hand, sampled and scored.
+template <typename Strategy, typename... Argument>
+std::shared_ptr<textio::GenericStrategy> evaluated(Settings const& settings,
+                                                   textio::Field const& sample,
+                                                   Argument&&... argument) {
+  auto const strategy = std::make_shared<Strategy>(settings.parsing, settings.types,
+                                                   std::forward<Argument>(argument)...);
+  textio::evaluate_strategy(strategy, sample, settings.records);
+  return strategy;
+}
+
+bool found_delimiter(Finding const& finding, Settings const& settings) {
+  return finding.report->outcome == Outcome::Candidate &&
+         finding.strategy->mode() == StrategyMode::Delimited &&
+         finding.strategy->options().delimiters.front() != settings.parsing.thousands_separator;
+}
+
+/// The layout is given, the delimiter is not. When something else wins, the blank is left out,
+/// without which there is nothing but delimited candidates.
+Finding detect_delimiter(Settings const& settings, textio::Field const& sample) {
+  Finding finding = detect(settings.parsing, settings, sample);
+  if (!found_delimiter(finding, settings)) {
+    auto without_blank = settings.parsing;
+    without_blank.thousands_separator = u" ";  // the mark that is never a delimiter
+    finding = detect(without_blank, settings, sample);
+  }
+  if (!found_delimiter(finding, settings)) {
+    finding.decided = finding.verdict == Verdict::NoRecords;
+    finding.strategy = evaluated<textio::DelimitedStrategy>(settings, sample, u',');
+  }
+  return finding;
+}
+
+/// The largest number of code units of a line.
+std::size_t longest_line(textio::GenericStrategy const& line_reader) {
+  std::size_t longest = 0;
+  for (textio::Field const& line : line_reader.field_array()->fields()) {
+    longest = std::max(longest, line.length());
+  }
+  return longest;
+}
+
+/// The layout is given, the widths are not. When the lines as a whole stand for one value, they
+/// are one column.
+Finding detect_widths(Settings const& settings, textio::Field const& sample) {
+  auto parsing = settings.parsing;
+  parsing.layout = textio::enums::Layout::FixedWidth;
+  Finding finding = detect(parsing, settings, sample);
+  if (finding.strategy->mode() != StrategyMode::FixedWidth) {
+    std::vector<std::size_t> widths{longest_line(*finding.report->line_reader)};
+    finding.strategy =
+        evaluated<textio::FixedWidthStrategy>(settings, sample, std::move(widths));
+  }
+  return finding;
+}
+
+Finding find(Settings const& settings, textio::Field const& sample) {
+  auto const layout = implied_layout(settings);
+  if (!layout) {
+    return detect(settings.parsing, settings, sample);
+  }
+  Finding given;
+  switch (*layout) {
+    case StrategyMode::Delimited:
+      if (settings.parsing.delimiters.empty()) {
+        return detect_delimiter(settings, sample);
+      }
+      given.strategy = evaluated<textio::DelimitedStrategy>(settings, sample);
+      break;
+    case StrategyMode::SpaceAligned:
+      given.strategy = evaluated<textio::SpaceAlignedStrategy>(settings, sample);
+      break;
+    case StrategyMode::FixedWidth:
+      if (settings.parsing.column_widths.empty()) {
+        return detect_widths(settings, sample);
+      }
+      given.strategy = evaluated<textio::FixedWidthStrategy>(
+          settings, sample, std::vector<std::size_t>(settings.parsing.column_widths));
+      break;
+    case StrategyMode::LineReader:
+      given.strategy = evaluated<textio::LineReaderStrategy>(settings, sample);
+      break;
+  }
+  return given;
+}
+
+/// The sample of an opened text. Where the user says what ends a record, a text that goes on is
+/// cut behind the last of these ends instead.
+std::u16string_view sample_of(textimport::text_source const& text, Settings const& settings) {
+  std::u16string_view const sample = text.sample().view();
+  if (!text.findings().goes_on || !settings.is_given(Option::LineEnding)) {
+    return sample;
+  }
+  std::size_t end = 0;
+  for (std::u16string const& ending : settings.parsing.line_endings) {
+    auto const last = sample.rfind(ending);
+    end = std::max(end, last == std::u16string_view::npos ? 0 : last + ending.size());
+  }
+  return end == 0 ? sample : sample.substr(0, end);
+}
+
+std::vector<textio::enums::ColumnType> types_of(textio::GenericStrategy const& strategy) {
+  std::vector<textio::enums::ColumnType> types;
+  if (strategy.field_array()->num_records() > 0) {
+    types.assign(strategy.num_variables(), textio::enums::ColumnType::Undecided);
+  }
+  auto const& codes = strategy.column_types();
+  for (std::size_t column = 0; column < std::min(types.size(), codes.size()); ++column) {
+    types[column] = static_cast<textio::enums::ColumnType>(codes[column]);
+  }
+  return types;
+}
+
+}  // namespace
+
+Answer find_answer(std::string const& path, Settings const& settings) {
+  auto text = textimport::text_source::open(path, settings.opening);
+  std::u16string_view const sample = sample_of(text, settings);
+  Finding finding = find(settings, textio::Field(sample));
+  Answer answer{.path = path,
+                .text = std::move(text),
+                .sample = sample,
+                .strategy = std::move(finding.strategy),
+                .report = std::move(finding.report),
+                .verdict = finding.verdict,
+                .decided = finding.decided,
+                .column_types = {},
+                .violation = {}};
+  answer.strategy->valuation();  // the comma fallback is not scored yet
+  answer.column_types = types_of(*answer.strategy);
+  auto const& parsing = settings.parsing;
+  std::size_t const found = answer.strategy->header_lines();
+  answer.header_lines = !parsing.detect_header_lines ? parsing.header_lines
+                        : found == textio::unknown_count ? 0
+                                                         : found;
+  if (answer.decided && !parsing.ignore_num_variables && !answer.column_types.empty() &&
+      answer.column_types.size() != parsing.num_variables) {
+    answer.decided = false;
+    answer.verdict = Verdict::ColumnsDiffer;
+  }
+  answer.violation = find_violation(answer, settings);
+  return answer;
+}
+
+std::size_t records_sampled(Answer const& answer) {
+  return answer.strategy->field_array()->num_records();
+}
+
+}  // namespace cli

@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: MIT
+//
+// The one source that knows the library that parses command lines. It only cuts words: each
+// command is an application of its own, because nested ones would take a file that is called like
+// a command for that command, and help is made from the table.
+
+#include "cli/arguments.hpp"
+
+#include <fmt/core.h>
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <string_view>
+
+#include "cli/usage_error.hpp"
+
+namespace cli {
+
+namespace {
+
+/// The number of single-character edits between two words.
+std::size_t edit_distance(std::string_view const a, std::string_view const b) {
+  std::vector<std::size_t> row(b.size() + 1);
+  for (std::size_t j = 0; j <= b.size(); ++j) {
+    row[j] = j;
+  }
+  for (std::size_t i = 0; i < a.size(); ++i) {
+    std::size_t diagonal = row[0];
+    row[0] = i + 1;
+    for (std::size_t j = 0; j < b.size(); ++j) {
+      std::size_t const change = diagonal + (a[i] == b[j] ? 0 : 1);
+      diagonal = row[j + 1];
+      row[j + 1] = std::min({change, row[j] + 1, row[j + 1] + 1});
+    }
+  }
+  return row.back();
+}
+
+/// The option whose name is nearest to a wrong one, as " (did you mean ...?)", or nothing.
+std::string suggestion(std::string_view word) {
+  word = word.substr(0, word.find('='));
+  std::string best;
+  std::size_t best_distance = 4;  // further away than that is no typing mistake
+  for (OptionSpec const& candidate : options()) {
+    std::string const name = flag(candidate.option);
+    std::size_t const distance = edit_distance(word, name);
+    if (distance < best_distance && distance < name.size() / 2) {
+      best = name;
+      best_distance = distance;
+    }
+  }
+  return best.empty() ? best : fmt::format(" (did you mean {}?)", best);
+}
+
+std::string cli_name(OptionSpec const& spec) {
+  std::string name = "--" + std::string(spec.name);
+  return spec.letter == 0 ? name : fmt::format("-{},{}", spec.letter, name);
+}
+
+void add_options(CLI::App& app, Arguments& arguments) {
+  for (OptionSpec const& row : options()) {
+    auto const store = [&arguments, option = row.option](CLI::results_t const& values) {
+      arguments.given[option] = values;
+      return true;
+    };
+    CLI::Option* const option = app.add_option(cli_name(row), store);
+    // Exactly one value each time, so that a file name behind it stays a file name.
+    option->expected(takes_value(row) ? 1 : 0)->allow_extra_args(false);
+    option->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+  }
+}
+
+/// The operands among the words that were no option or value of one. Up to the first "--", which
+/// the library leaves among them, a word with a dash is a wrong option.
+std::vector<std::string> operands(std::vector<std::string> words) {
+  auto const mark = std::ranges::find(words, "--");
+  for (std::string const& word : std::ranges::subrange(words.begin(), mark)) {
+    if (word.size() > 1 && word.front() == '-') {
+      throw usage_error(fmt::format("unknown option {}{}", word, suggestion(word)));
+    }
+  }
+  if (mark != words.end()) {
+    words.erase(mark);
+  }
+  return words;
+}
+
+/// The library takes the next word for the value of "--name="; an empty value is meant.
+void keep_empty_values(std::vector<std::string>& words) {
+  for (auto word = words.begin(); word != words.end() && *word != "--"; ++word) {
+    if (word->size() > 3 && word->starts_with("--") && word->find('=') == word->size() - 1) {
+      word->pop_back();
+      word = words.insert(word + 1, std::string());
+    }
+  }
+}
+
+/// What the table says beyond the number of values each time.
+void check_counts(Arguments const& arguments) {
+  for (auto const& [option, values] : arguments.given) {
+    OptionSpec const& row = spec(option);
+    if (takes_value(row) && !row.repeatable && values.size() > 1) {
+      throw usage_error(fmt::format("{} is given {} times, as {} and {}: give it once",
+                                    flag(option), values.size(), values[0], values[1]));
+    }
+    if (!takes_value(row) && std::ranges::any_of(values, [](auto& v) { return v != "true"; })) {
+      throw usage_error(fmt::format("{} takes no value", flag(option)));
+    }
+  }
+}
+
+/// Takes the command's name off the words, if there is one.
+Command take_command(std::vector<std::string>& words) {
+  if (!words.empty()) {
+    auto const found = std::ranges::find(commands(), words.front(), &CommandSpec::name);
+    if (found != commands().end()) {
+      words.erase(words.begin());
+      return found->command;
+    }
+  }
+  return Command::Detect;
+}
+
+}  // namespace
+
+Arguments parse_arguments(std::vector<std::string> words) {
+  Arguments arguments;
+  arguments.command = take_command(words);
+  CLI::App app;
+  app.set_help_flag();
+  add_options(app, arguments);
+  keep_empty_values(words);
+  // Not a positional option, whose values in square brackets would be cut up.
+  app.allow_extras();
+  std::ranges::reverse(words);  // the library takes them from the back
+  try {
+    app.parse(std::move(words));
+  } catch (CLI::ArgumentMismatch const& error) {  // "--name: ...", for a value that is not there
+    std::string_view const text = error.what();
+    throw usage_error(fmt::format("{} needs a value", text.substr(0, text.find(':'))));
+  } catch (CLI::ParseError const& error) {
+    throw usage_error(error.what());
+  }
+  arguments.operands = operands(app.remaining());
+  check_counts(arguments);
+  return arguments;
+}
+
+}  // namespace cli

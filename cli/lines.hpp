@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+//
+// Plain text broken into lines of a given width.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace cli {
+
+/// Breaks text at blanks; every line but the first begins with `indent` blanks, and the first one
+/// begins `indent` cells into the line too, where the caller has written something. Ends with a
+/// line feed. Words that are longer than a line stand alone on theirs.
+[[nodiscard]] std::string wrapped(std::string_view text, std::size_t indent, std::size_t width);
+
+/// Lines such as "  layout        delimited".
+class FactLines {
+ public:
+  explicit FactLines(std::size_t const width) : width_(width) {}
+
+  void add(std::string_view name, std::string_view value);
+
+  [[nodiscard]] std::string& text() { return text_; }
+
+ private:
+  std::size_t width_;
+  std::string text_;
+};
+
+}  // namespace cli

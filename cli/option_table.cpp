@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: MIT
+
+#include "cli/option_table.hpp"
+
+#include <algorithm>
+#include <array>
+
+namespace cli {
+
+namespace {
+
+constexpr std::array command_table{
+    CommandSpec{Command::Detect, "detect", "[OPTION...] [FILE...]",
+                "Say how each file is laid out: the layout, the delimiter, the header lines, the "
+                "columns and their types. The command that is meant when none is named."},
+    CommandSpec{Command::Explain, "explain", "[OPTION...] [FILE...]",
+                "Tell how the decision came about: the characters that were tried, every "
+                "candidate, and the rules that left one of them."},
+    CommandSpec{Command::Generate, "generate", "man|bash|zsh|fish|json",
+                "Print the man page, the completions for a shell, or the table of commands and "
+                "options as JSON."},
+};
+
+constexpr std::string_view none{};
+
+constexpr std::array option_table{
+    OptionSpec{Option::Encoding, Section::Reading, 'e', "encoding", "NAME", none, false,
+               "Read the bytes in this encoding instead of finding it out."},
+    OptionSpec{Option::Strict, Section::Reading, 0, "strict", none, none, false,
+               "Refuse a file with bytes that the encoding does not allow, instead of replacing "
+               "them."},
+    OptionSpec{Option::SampleSize, Section::Reading, 0, "sample-size", "SIZE", none, false,
+               "Look at this much of the head of the data, in bytes after decompression; K and M "
+               "stand for 1024 and 1024 times 1024. 1 to 64M; default: 1M."},
+    OptionSpec{Option::Records, Section::Reading, 'n', "records", "N", none, false,
+               "Sample this many data records, or \"all\" of the sample. Default: 250."},
+    OptionSpec{Option::FilesFrom, Section::Reading, 0, "files0-from", "FILE", none, false,
+               "Take the names of the files from FILE, each ended by a NUL byte; \"-\" is standard "
+               "input."},
+
+    OptionSpec{Option::Layout, Section::Layout, 'l', "layout", none,
+               "auto|delimited|space-aligned|fixed-width|lines", false,
+               "Read the text so, whatever else would be found. Default: auto."},
+    OptionSpec{Option::Delimiter, Section::Layout, 'd', "delimiter", "TEXT", none, true,
+               "Split the fields here, whatever else would be found; repeat it for several "
+               "delimiters. Understands \\t, \\\\, \\xHH and \\uHHHH."},
+    OptionSpec{Option::Widths, Section::Layout, 'w', "widths", "N,N,...", none, false,
+               "Cut the lines into columns of these widths, in UTF-16 code units."},
+    OptionSpec{Option::HeaderLines, Section::Layout, 0, "header-lines", "N", none, false,
+               "Take this many lines as the header, or find it out with \"auto\". Default: auto."},
+    OptionSpec{Option::Columns, Section::Layout, 'c', "columns", "N", none, false,
+               "Expect this many columns: prefer what has them, and call an answer with another "
+               "number not decided."},
+
+    OptionSpec{Option::Comment, Section::Records, 0, "comment", "TEXT", none, true,
+               "A line that starts with TEXT is a comment. Given twice: the marks that open and "
+               "close a comment."},
+    OptionSpec{Option::Quote, Section::Records, 'q', "quote", "CHAR", none, false,
+               "The character around quoted fields, or \"none\". Default: the quotation mark."},
+    OptionSpec{Option::Whitespace, Section::Records, 0, "whitespace", "CHARS", none, false,
+               "The characters that make a line blank and are trimmed from values. Default: space "
+               "and tab."},
+    OptionSpec{Option::LineEnding, Section::Records, 0, "line-ending", "TEXT", none, true,
+               "What ends a record: LF, CRLF, CR, or any text. Default: all three."},
+    OptionSpec{Option::Consecutive, Section::Records, 0, "consecutive", none, "split|join|error",
+               false,
+               "Whether a run of delimiters makes empty fields, counts as one, or is an error. "
+               "Default: split."},
+    OptionSpec{Option::Leading, Section::Records, 0, "leading", none, "keep|ignore|error", false,
+               "Whether a delimiter at the start of a record makes an empty field, is skipped, or "
+               "is an error. Default: keep."},
+    OptionSpec{Option::Trailing, Section::Records, 0, "trailing", none, "keep|ignore|error", false,
+               "Likewise at the end of a record. Default: keep."},
+    OptionSpec{Option::EmptyLines, Section::Records, 0, "empty-lines", none, "skip|read|error",
+               false,
+               "Whether an empty line is skipped, is a record without fields, or is an error. "
+               "Default: skip."},
+    OptionSpec{Option::PartialField, Section::Records, 0, "partial-field", none,
+               "keep|drop-field|drop-record|fill-missing|wrap|error", false,
+               "What a line that ends inside a fixed-width column gives: the short field, no "
+               "field, no record, a missing value, a field that runs on into the next line, or "
+               "an error. Default: keep."},
+
+    OptionSpec{Option::DecimalMark, Section::Values, 0, "decimal-mark", "CHAR", none, false,
+               "The mark before the decimals of a number, or \"none\". It is never taken for a "
+               "delimiter. Default: the full stop."},
+    OptionSpec{Option::ThousandsMark, Section::Values, 0, "thousands-mark", "CHAR", none, false,
+               "The mark between groups of digits. It is never taken for a delimiter."},
+    OptionSpec{Option::Missing, Section::Values, 'm', "missing", "TEXT", none, true,
+               "A value that stands for a missing one, such as NA."},
+    OptionSpec{Option::DateFormat, Section::Values, 0, "date-format", "PATTERN", none, false,
+               "The only form of dates, such as dd.MM.yyyy or yyyy-MM-dd HH:mm. Default: the "
+               "usual forms."},
+    OptionSpec{Option::Exponent, Section::Values, 0, "exponent", "CHARS", none, false,
+               "The characters that may stand before the exponent of a number. Default: eEdD."},
+    OptionSpec{Option::DecimalDigits, Section::Values, 0, "decimal-digits", "N", none, false,
+               "A number has at most N decimals; what has more is text."},
+    OptionSpec{Option::LeadingCharacter, Section::Values, 0, "leading-character", "CHAR", none,
+               false, "A character to drop from the start of values, such as a currency sign."},
+    OptionSpec{Option::EmbeddedNumbers, Section::Values, 0, "embedded-numbers", none, none, false,
+               "A value that holds a number anywhere counts as a number."},
+    OptionSpec{Option::KeepBlanks, Section::Values, 0, "keep-blanks", none, none, false,
+               "Do not trim whitespace from a value before its type is found out."},
+
+    OptionSpec{Option::Json, Section::Output, 'j', "json", none, none, false,
+               "Print one JSON object a line for each file."},
+    OptionSpec{Option::Rows, Section::Output, 'r', "rows", "N", none, false,
+               "Show this many rows of the data. Default: 5."},
+    OptionSpec{Option::Width, Section::Output, 0, "width", "N", none, false,
+               "Fit the output for people into lines of N cells, at least 40. Default: 80."},
+    OptionSpec{Option::Color, Section::Output, 0, "color", none, "auto|always|never", false,
+               "Whether to use colour. \"auto\" does on a terminal, unless NO_COLOR is set or TERM "
+               "is \"dumb\"."},
+
+    OptionSpec{Option::Help, Section::Program, 'h', "help", none, none, false,
+               "Print this help."},
+    OptionSpec{Option::Version, Section::Program, 'V', "version", none, none, false,
+               "Print the version."},
+};
+
+}  // namespace
+
+std::span<CommandSpec const> commands() { return command_table; }
+
+std::span<OptionSpec const> options() { return option_table; }
+
+OptionSpec const& spec(Option const option) {
+  return *std::ranges::find(option_table, option, &OptionSpec::option);
+}
+
+std::string_view section_title(Section const section) {
+  switch (section) {
+    case Section::Reading:
+      return "What is read";
+    case Section::Layout:
+      return "The layout: what is given is never changed, the rest is found out";
+    case Section::Records:
+      return "Records and fields";
+    case Section::Values:
+      return "Values";
+    case Section::Output:
+      return "Output";
+    case Section::Program:
+      break;
+  }
+  return "The program";
+}
+
+std::string flag(Option const option) { return "--" + std::string(spec(option).name); }
+
+std::vector<std::string_view> choices(OptionSpec const& spec) {
+  std::vector<std::string_view> words;
+  std::string_view rest = spec.choices;
+  while (!rest.empty()) {
+    auto const end = std::min(rest.find('|'), rest.size());
+    words.push_back(rest.substr(0, end));
+    rest.remove_prefix(std::min(end + 1, rest.size()));
+  }
+  return words;
+}
+
+}  // namespace cli
