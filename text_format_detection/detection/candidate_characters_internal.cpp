@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <array>
+#include <string_view>
+#include <utility>
 
 #include "text_format_detection/model/text_view_internal.hpp"
 

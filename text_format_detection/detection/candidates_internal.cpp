@@ -3,6 +3,8 @@
 // Building candidates in order, and the acceptance test.
 #include "text_format_detection/detection/candidates_internal.hpp"
 
+#include <utility>
+
 #include "text_format_detection/detection/candidate_characters_internal.hpp"
 #include "text_format_detection/detection/fixed_width_detection_internal.hpp"
 #include "text_format_detection/detection/line_alignment_internal.hpp"

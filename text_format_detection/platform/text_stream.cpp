@@ -41,20 +41,19 @@ void TextStream::resizeInternalBuffer(std::size_t const length) const {
 }
 
 std::size_t TextStream::refill() const {
-  // Puts the end mark behind the text again, also when the source throws half-way.
-  struct EndMarkKeeper {
-    TextStream const& stream;
-
-    ~EndMarkKeeper() { stream.buffer_[stream.end_] = textio::end_mark; }
-  } const keeper{*this};
-
   std::size_t const before = end_;
-  while (!at_end_ && end_ + 1 < buffer_.size()) {
-    std::size_t const room = buffer_.size() - 1 - end_;
-    std::size_t const delivered = std::min(source_(buffer_.data() + end_, room), room);
-    end_ += delivered;
-    at_end_ = delivered == 0;
+  try {
+    while (!at_end_ && end_ + 1 < buffer_.size()) {
+      std::size_t const room = buffer_.size() - 1 - end_;
+      std::size_t const delivered = std::min(source_(buffer_.data() + end_, room), room);
+      end_ += delivered;
+      at_end_ = delivered == 0;
+    }
+  } catch (...) {
+    buffer_[end_] = textio::end_mark;  // the source may have written there before it failed
+    throw;
   }
+  buffer_[end_] = textio::end_mark;
   return end_ - before;
 }
 

@@ -4,9 +4,11 @@
 // once, over a scanner (what a record is) and a policy for comments.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 #include "text_format_detection/model/errors.hpp"
 #include "text_format_detection/model/text_view_internal.hpp"

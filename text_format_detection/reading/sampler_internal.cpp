@@ -40,18 +40,17 @@ void sample_strategy(SamplingContext& ctx, std::shared_ptr<GenericStrategy> cons
   if (strategy->is_sampled()) {
     return;
   }
-  std::shared_ptr<GenericStrategy> const kept = strategy;
   ctx.fields = std::make_unique<FieldArray>();
-  if (!has_reader(kept->mode())) {
+  if (!has_reader(strategy->mode())) {
     return;
   }
-  set_field_limit(ctx, *kept);
-  fill_fields(ctx, *kept);
-  kept->field_array(std::move(ctx.fields));
+  set_field_limit(ctx, *strategy);
+  fill_fields(ctx, *strategy);
+  strategy->field_array(std::move(ctx.fields));
   ctx.limit_fields = false;
   ctx.max_fields = unknown_count;
   if (valuate) {
-    kept->valuation();
+    strategy->valuation();
   }
 }
 

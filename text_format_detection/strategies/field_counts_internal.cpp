@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <iterator>
 #include <numeric>
+#include <utility>
 
 #include "text_format_detection/model/text_view_internal.hpp"
 

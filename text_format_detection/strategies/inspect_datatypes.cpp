@@ -4,6 +4,12 @@
 // last one up decides. The lines at the top are the ones that may be names or units, so that the
 // walk ends before the first record behind the header lines.
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 #include "text_format_detection/model/text_view_internal.hpp"
 #include "text_format_detection/strategies/field_classifier_internal.hpp"

@@ -9,7 +9,9 @@
 // Their mean says how regular the reading is, the bend in their running mean how many lines are
 // headers (found among the non-empty lines, then moved past the empty ones).
 #include <algorithm>
+#include <cstdint>
 #include <limits>
+#include <vector>
 
 #include "text_format_detection/detection/header_lines.hpp"
 #include "text_format_detection/strategies/field_counts_internal.hpp"

@@ -3,6 +3,9 @@
 // The seven rules, in the order in which they run. Each has a file of its own, with its reason.
 #pragma once
 
+#include <cstdint>
+#include <string_view>
+
 #include "text_format_detection/detection/picker_rules/rule_internal.hpp"
 
 namespace textio::detection::picker_rules {
