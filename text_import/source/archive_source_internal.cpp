@@ -169,12 +169,7 @@ void archive_source::find_member(std::string const& wanted) {
     if (wanted.empty() || name == wanted) {
       has_data_ = true;
       member_ = is_zip_ ? name : "";
-      // One filter and the end of their chain; more unpack what was packed twice.
-      if (archive_filter_count(handle_.get()) > 2) {
-        throw error(import_error_kind::NestedCompression,
-                    "packed twice: inside the " + format() + " data lies " + format() +
-                        " data; unpack the file once and try again");
-      }
+      expect_one_filter();
       return;
     }
   }
@@ -183,6 +178,21 @@ void archive_source::find_member(std::string const& wanted) {
         import_error_kind::MemberNotFound, path(),
         names.count == 0 ? "the zip archive holds no file"
                          : "the zip archive has no member " + wanted + "; it has " + names.list());
+  }
+}
+
+/// The end of the chain counts as a filter. Data whose first bytes are too few or not right pass
+/// without one, data that were packed twice through one more.
+void archive_source::expect_one_filter() const {
+  constexpr std::uint64_t longest_header = 32;
+  int const filters = is_zip_ ? 2 : archive_filter_count(handle_.get());
+  if (filters > 2) {
+    throw error(import_error_kind::NestedCompression,
+                "packed twice: inside the " + format() + " data lies " + format() +
+                    " data; unpack the file once and try again");
+  }
+  if (filters < 2) {
+    throw consumed_bytes() < longest_header ? truncated() : damaged("the header is not right");
   }
 }
 
@@ -206,8 +216,8 @@ void archive_source::expect_no_further_member() {
 
 std::size_t archive_source::decompress(char* const room, std::size_t const capacity) {
   while (data_.empty() && has_data_) {
-    if (late_failure_) {
-      std::rethrow_exception(late_failure_);
+    if (has_failed_) {
+      fail();
     }
     read_next_data();
   }
@@ -225,16 +235,9 @@ void archive_source::read_next_data() {
     expect_no_further_member();
     return;
   }
+  // A wrong checksum comes together with the last data, which are delivered first.
   data_ = {static_cast<char const*>(block), length};
-  if (result == ARCHIVE_OK) {
-    return;
-  }
-  // A wrong checksum comes together with the last data.
-  try {
-    fail();
-  } catch (...) {
-    late_failure_ = std::current_exception();
-  }
+  has_failed_ = result != ARCHIVE_OK;
 }
 
 void archive_source::fail() const {

@@ -45,6 +45,7 @@ class archive_source : public decompressing_source {
   void set_up(std::string const& format);
   bool next_member(std::string& name);
   void find_member(std::string const& wanted);
+  void expect_one_filter() const;
   void expect_no_further_member();
   void read_next_data();
   [[noreturn]] void fail() const;
@@ -59,7 +60,7 @@ class archive_source : public decompressing_source {
   std::string member_;
   std::string_view data_;  // decompressed and not yet delivered
   std::exception_ptr raw_failure_;
-  std::exception_ptr late_failure_;  // behind data_
+  bool has_failed_ = false;  // behind data_
 };
 
 }  // namespace textimport

@@ -36,6 +36,9 @@ class decompressing_source : public byte_source {
 
   [[nodiscard]] std::string const& format() const noexcept { return format_; }
 
+  /// How many bytes next_block() has delivered.
+  [[nodiscard]] std::uint64_t consumed_bytes() const noexcept { return consumed_bytes_; }
+
   /// The errors of damaged data, at what was decompressed so far. `detail` is what the
   /// decompressor says, or empty.
   [[nodiscard]] import_error truncated() const;

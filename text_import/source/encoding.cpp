@@ -124,12 +124,18 @@ std::string corrected(std::string const& answer, std::string_view const head) {
 }
 
 /// True when hardly a byte of the text is bad in the encoding.
-bool fits(std::string const& encoding, std::string_view const head, bool const complete) {
+bool fits(std::string const& encoding, std::string_view head, bool const complete) {
+  constexpr std::size_t piece_bytes = std::size_t{1} << 14U;
+  auto const non_ascii = static_cast<std::uint64_t>(
+      std::count_if(head.begin(), head.end(), [](char const c) { return (c & 0x80) != 0; }));
   decoder trial(encoding, 0, false, {});
   std::u16string text;
-  trial.decode(head, complete, text);
-  auto const non_ascii = static_cast<std::uint64_t>(
-      std::count_if(head.begin(), head.end(), [](char const c) { return c < 0; }));
+  while (!head.empty()) {
+    text.clear();
+    std::string_view const piece = head.substr(0, piece_bytes);
+    head.remove_prefix(piece.size());
+    trial.decode(piece, complete && head.empty(), text);
+  }
   return trial.counts().bad_bytes * 16 <= non_ascii;
 }
 

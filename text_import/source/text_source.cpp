@@ -26,6 +26,19 @@ bool leaves_text_usable(import_error_kind const kind) {
          kind == import_error_kind::WrongChecksum;
 }
 
+/// Appends up to `capacity` bytes of `source` to `bytes` and returns how many; none when it throws.
+std::size_t append_bytes(byte_source& source, std::size_t const capacity, std::string& bytes) {
+  std::size_t const start = bytes.size();
+  bytes.resize(start + capacity);
+  try {
+    bytes.resize(start + source.read(bytes.data() + start, capacity));
+  } catch (...) {
+    bytes.resize(start);
+    throw;
+  }
+  return bytes.size() - start;
+}
+
 /// The length of `text` up to and with its last line ending, 0 without any. A CR at the very end
 /// is none: an LF may follow.
 std::size_t whole_lines(std::u16string_view const text) {
@@ -96,7 +109,10 @@ void count_characters(std::u16string_view const text, text_findings& findings) {
 }  // namespace
 
 struct text_source::state {
-  state(std::string name, open_options const& given) : path(std::move(name)), options(given) {}
+  state(std::string name, open_options const& given) : path(std::move(name)), options(given) {
+    options.sample_bytes = std::max<std::size_t>(options.sample_bytes, 1);
+    options.block_bytes = std::max<std::size_t>(options.block_bytes, 1);
+  }
 
   void open(std::unique_ptr<byte_source> raw);
   std::size_t deliver(char16_t* room, std::size_t capacity);
@@ -112,14 +128,12 @@ struct text_source::state {
 
  private:
   void read_head(std::string& head);
-  void look_behind_head();
-  std::size_t read_block(char* room, std::size_t capacity);
   void note_failure(import_error const& error, bool after_text);
   void find_encoding_of(std::string_view head);
   void cut_sample();
   void decode_next_block();
 
-  std::string ahead;  // the block behind the head, read to see whether there is one
+  std::string ahead;  // a block that was read, but not decoded yet
   std::u16string block_text;
   std::u16string_view undelivered;
   std::exception_ptr failure;
@@ -134,8 +148,6 @@ void text_source::state::open(std::unique_ptr<byte_source> raw) {
   std::string head;
   read_head(head);
   refuse_binary_format(head, findings.compression, path);
-  look_behind_head();
-  findings.bytes_read = head.size();
   if (findings.goes_on && findings.compression == "zip" && options.member.empty() && !failure) {
     findings.warnings.emplace_back(
         "the first member of the archive is larger than the sample; whether others follow it was "
@@ -159,34 +171,15 @@ void text_source::state::read_head(std::string& head) {
   try {
     while (head.size() < options.sample_bytes && !at_end) {
       std::size_t const room = std::min(options.block_bytes, options.sample_bytes - head.size());
-      std::size_t const start = head.size();
-      head.resize(start + room);
-      std::size_t delivered = 0;
-      try {
-        delivered = bytes->read(head.data() + start, room);
-      } catch (...) {
-        head.resize(start);
-        throw;
-      }
-      head.resize(start + delivered);
-      at_end = delivered == 0;
+      at_end = append_bytes(*bytes, room, head) == 0;
+    }
+    if (!at_end) {
+      at_end = append_bytes(*bytes, options.block_bytes, ahead) == 0;
     }
   } catch (import_error const& error) {
     note_failure(error, !head.empty());
   }
-}
-
-void text_source::state::look_behind_head() {
-  if (!at_end && !failure) {
-    ahead.resize(options.block_bytes);
-    try {
-      ahead.resize(bytes->read(ahead.data(), ahead.size()));
-      at_end = ahead.empty();
-    } catch (import_error const& error) {
-      ahead.clear();
-      note_failure(error, true);
-    }
-  }
+  findings.bytes_read = head.size();
   findings.goes_on = !at_end;
 }
 
@@ -232,14 +225,7 @@ void text_source::state::decode_next_block() {
   block_text.clear();
   try {
     if (ahead.empty()) {
-      ahead.resize(options.block_bytes);
-      try {
-        ahead.resize(bytes->read(ahead.data(), ahead.size()));
-      } catch (...) {
-        ahead.clear();
-        throw;
-      }
-      at_end = ahead.empty();
+      at_end = append_bytes(*bytes, options.block_bytes, ahead) == 0;
     }
     std::string const block = std::exchange(ahead, {});
     decoding->decode(block, at_end, block_text);

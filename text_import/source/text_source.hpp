@@ -84,11 +84,11 @@ struct text_findings {
 ///
 /// An empty file is a text with an empty sample and not an error.
 ///
-/// Memory, whatever the size of the file and with the default options: at most 3.5 MiB while it is
-/// opened (the bytes of the head, their text with two bytes a code unit, a few blocks), and 2.5 MiB
-/// afterwards; in general 3 times sample_bytes and 8 times block_bytes. What the decompressor
-/// needs comes on top: gzip and zip below 0.1 MiB, bzip2 4 MiB, lz4 8 MiB, xz and zstd as much as
-/// the one who compressed chose, usually 8 MiB, at its strongest 65 MiB and 128 MiB.
+/// Memory, whatever the size of the file: while it is opened 3 bytes for each byte of the head and
+/// below 0.5 MiB beside them, afterwards 2 bytes for each (its text) and as much beside; with the
+/// default options that is at most 3.5 MiB. What the decompressor needs comes on top: gzip and zip
+/// below 0.1 MiB, bzip2 4 MiB, lz4 8 MiB, xz and zstd as much as the one who compressed chose:
+/// usually 8 MiB, at its strongest 65 MiB and 128 MiB. Larger blocks count three times.
 ///
 /// Can be moved; views of the sample stay valid until the last of the text_source and its stream
 /// is destroyed. Not for several threads at once.

@@ -1,0 +1,216 @@
+// SPDX-License-Identifier: MIT
+//
+// Packed data, whole and damaged in every way that a transfer damages them. The rule behind all
+// tests: a text that is not the one that was packed is never answered without a word.
+#include <gtest/gtest.h>
+
+#include "tests/text_import/made_data.hpp"
+#include "text_import/source/decompression_internal.hpp"
+
+namespace textimport {
+namespace {
+
+using made::outcome;
+using made::packed;
+using made::read_all;
+
+class packed_text : public testing::TestWithParam<char const*> {};
+
+INSTANTIATE_TEST_SUITE_P(decompression, packed_text, testing::ValuesIn(made::packed_formats),
+                         [](auto const& row) { return std::string(row.param); });
+
+TEST_P(packed_text, is_the_text_again_in_blocks_of_any_size) {
+  for (std::size_t const size :
+       {std::size_t{0}, std::size_t{1}, std::size_t{5000}, std::size_t{300000}}) {
+    std::string const text = size == 1 ? "x" : made::table_of(size);
+    std::string const bytes = packed(GetParam(), text);
+    EXPECT_EQ(compression_of(bytes), GetParam());
+    for (std::size_t const block : {std::size_t{1}, std::size_t{7}, std::size_t{65536}}) {
+      if (block == 1 && size > 10000) {
+        continue;  // slow, and no other case
+      }
+      open_options options;
+      options.block_bytes = block;
+      options.sample_bytes = 100000;
+      outcome const read =
+          read_all(std::make_unique<made::piecewise_source>(bytes, block), options);
+      EXPECT_EQ(read.error, "") << read.message;
+      EXPECT_EQ(read.findings.compression, GetParam());
+      EXPECT_EQ(read.findings.goes_on, size > 100000);
+      EXPECT_TRUE(read.whole == made::utf16(text)) << size << " bytes, blocks of " << block;
+    }
+  }
+}
+
+TEST_P(packed_text, cut_anywhere_is_a_prefix_and_never_silent) {
+  std::string const text = made::table_of(3000);
+  std::string const bytes = packed(GetParam(), text);
+  std::string const format = GetParam();
+  // What stands behind the text in a zip archive is its table of contents, which is not read.
+  std::size_t const end = format == "zip" ? bytes.find("PK\x01\x02") : bytes.size();
+  for (std::size_t length = 10; length < end; ++length) {
+    outcome const read = read_all(bytes.substr(0, length));
+    EXPECT_EQ(read.error, "truncated_compression") << length << ": " << read.message;
+    EXPECT_TRUE(made::utf16(text).starts_with(read.whole)) << length;
+    EXPECT_EQ(read.is_open, !read.whole.empty()) << length;
+    EXPECT_EQ(read.is_open, !read.findings.warnings.empty()) << length;
+    EXPECT_EQ(read.error_byte, read.whole.size()) << length;
+    EXPECT_TRUE(read.findings.no_line_end || read.sample.empty() || read.sample.back() == u'\n');
+  }
+}
+
+TEST_P(packed_text, with_a_flipped_bit_is_never_another_text_in_silence) {
+  std::string const format = GetParam();
+  if (format == "zstd") {
+    GTEST_SKIP() << "the writer adds no checksum, so that nobody can notice";
+  }
+  std::string const text = made::table_of(600);
+  std::string const bytes = packed(format, text);
+  std::size_t const end = format == "zip" ? bytes.find("PK\x01\x02") : bytes.size();
+  std::size_t doubted = 0;
+  for (std::size_t bit = 0; bit < end * 8; bit += 3) {
+    std::string damaged = bytes;
+    damaged[bit / 8] = static_cast<char>(damaged[bit / 8] ^ (1 << bit % 8));
+    if (compression_of(damaged) != format || (format == "zip" && bit == 6 * 8 + 3)) {
+      continue;  // no longer recognised, or read as the header of an empty member
+    }
+    outcome const read = read_all(damaged);
+    doubted += read.is_doubted() ? 1U : 0U;
+    EXPECT_TRUE(read.is_doubted() || read.whole == made::utf16(text)) << "bit " << bit;
+  }
+  EXPECT_GT(doubted, end * 2) << "most bits matter";
+}
+
+TEST_P(packed_text, packed_once_more_is_refused) {
+  for (char const* const outer : {"gzip", "bzip2", "xz", "zstd", "lz4", "zip"}) {
+    outcome const read = read_all(packed(outer, packed(GetParam(), made::table_of(5000))));
+    EXPECT_EQ(read.error, "nested_compression") << outer << ": " << read.message;
+    EXPECT_FALSE(read.is_open);
+  }
+}
+
+TEST_P(packed_text, with_a_failing_read_reports_the_failure_itself) {
+  std::string const bytes = packed(GetParam(), made::table_of(3000));
+  open_options options;
+  options.block_bytes = 100;
+  outcome read;
+  for (std::size_t call = 1; read.error.empty() == (call > 1) && call < 100; ++call) {
+    read = read_all(std::make_unique<made::piecewise_source>(bytes, 100, call), options);
+    if (read.error.empty()) {
+      EXPECT_GT(call * 100, bytes.size()) << "an error was swallowed";
+      return;
+    }
+    EXPECT_EQ(read.error, "read_failed") << "call " << call << ": " << read.message;
+    EXPECT_EQ(read.error_byte, (call - 1) * 100 < bytes.size() ? (call - 1) * 100 : bytes.size());
+  }
+}
+
+TEST(gzip, compares_checksum_and_length) {
+  std::string const text = made::table_of(3000);
+  for (std::size_t const behind_end : {8U, 4U}) {  // the checksum, the length
+    std::string bytes = packed("gzip", text);
+    bytes[bytes.size() - behind_end] = static_cast<char>(~bytes[bytes.size() - behind_end]);
+    outcome const read = read_all(bytes);
+    EXPECT_TRUE(read.whole == made::utf16(text) && read.sample == read.whole);
+    EXPECT_FALSE(read.findings.goes_on);
+    EXPECT_EQ(read.findings.warnings.size(), 1U);
+    EXPECT_EQ(read.error, "wrong_checksum");
+  }
+}
+
+TEST(gzip, reads_what_may_follow_a_member) {
+  std::string const one = packed("gzip", "a,b\n");
+  std::string const two = packed("gzip", "c,d\n");
+
+  struct row {
+    std::string bytes;
+    char16_t const* text;
+    std::size_t warnings;
+    char const* error;
+  };
+
+  for (row const& row :
+       {row{one + two, u"a,b\nc,d\n", 0, ""}, row{one + std::string(512, '\0'), u"a,b\n", 0, ""},
+        row{one + std::string(5, '\0') + two, u"a,b\nc,d\n", 0, ""},
+        row{one + "other bytes", u"a,b\n", 1, ""},
+        row{one + two.substr(0, 3), u"a,b\n", 1, "truncated_compression"},
+        row{one + "\x1F" + "zzz", u"a,b\n", 1, "damaged_compression"}}) {
+    outcome const read = read_all(row.bytes);
+    EXPECT_TRUE(read.whole == row.text);
+    EXPECT_EQ(read.findings.warnings.size(), row.warnings);
+    EXPECT_EQ(read.error, row.error) << read.message;
+  }
+}
+
+TEST(ratio_limit, stops_whoever_reads_on_but_not_the_sample) {
+  std::string const bomb = packed("bzip2", std::string(std::size_t{40} << 20U, '\n'));
+  outcome const stopped = read_all(bomb);
+  EXPECT_TRUE(stopped.is_open);
+  EXPECT_EQ(stopped.error, "ratio_exceeded");
+  EXPECT_LT(stopped.whole.size(), std::size_t{18} << 20U);
+  open_options unlimited;
+  unlimited.ratio_limit = 0;
+  EXPECT_EQ(read_all(bomb, unlimited).whole.size(), std::size_t{40} << 20U);
+}
+
+TEST(zip, is_read_by_its_only_or_its_named_member) {
+  struct row {
+    std::vector<std::pair<std::string, std::string>> members;
+    char const* wanted;
+    char const* member;
+    char const* text_or_error;
+    char const* message_part;
+  };
+
+  std::string const big = made::table_of(2000000);
+  for (row const& row : {
+           row{{{"a.csv", "1\n"}}, "", "a.csv", "1\n", ""},
+           row{{{"d/", ""}, {"d/a.csv", "1\n"}}, "", "d/a.csv", "1\n", ""},
+           row{{{"a.csv", "1\n"}, {"__MACOSX/._a.csv", "\1\2"}}, "", "a.csv", "1\n", ""},
+           row{{{"a.csv", ""}}, "", "a.csv", "", ""},
+           row{{{"a", "1\n"}, {"b", "2\n"}}, "", "", "several_members", "2 members (a, b)"},
+           row{{{"a", ""}, {"b", "2\n"}}, "", "", "several_members", "made:a"},
+           row{{{"a", "1\n"}, {"b", "2\n"}}, "b", "b", "2\n", ""},
+           row{{{"a", big}, {"b", "2\n"}}, "b", "b", "2\n", ""},
+           row{{{"\xC3\xA4.csv", "1\n"}}, "\xC3\xA4.csv", "\xC3\xA4.csv", "1\n", ""},
+           row{{{"a", "1\n"}}, "c", "", "member_not_found", "it has a"},
+           row{{{"d/", ""}}, "", "", "member_not_found", "no file"},
+       }) {
+    open_options options;
+    options.member = row.wanted;
+    outcome const read = read_all(made::zip(row.members), options);
+    SCOPED_TRACE(row.members.front().first + " " + row.wanted + ": " + read.message);
+    EXPECT_EQ(read.findings.member, row.member);
+    EXPECT_TRUE(read.error == row.text_or_error || read.whole == made::utf16(row.text_or_error));
+    EXPECT_NE(read.message.find(row.message_part), std::string::npos);
+  }
+}
+
+TEST(zip, with_a_member_larger_than_the_sample_says_what_was_not_seen) {
+  std::string const big = made::table_of(20000);
+  open_options options;
+  options.sample_bytes = 1000;
+  outcome const one = read_all(made::zip({{"a", big}}), options);
+  EXPECT_TRUE(one.error.empty() && one.findings.warnings.size() == 1);
+  outcome const two = read_all(made::zip({{"a", big}, {"b", "2\n"}}), options);
+  EXPECT_TRUE(two.is_open && two.whole == made::utf16(big));
+  EXPECT_EQ(two.error, "several_members");
+}
+
+TEST(member, of_what_is_no_archive_is_an_error) {
+  open_options options;
+  options.member = "a.csv";
+  EXPECT_EQ(read_all("a,b\n", options).error, "member_not_found");
+  EXPECT_EQ(read_all(packed("gzip", "a,b\n"), options).error, "member_not_found");
+}
+
+TEST(text_that_begins_like_packed_data, is_text) {
+  for (char const* const text : {"BZh", "BZhang,1\n", "BZh9,1\n", "PK,1\n", "7zXZ\n"}) {
+    outcome const read = read_all(text);
+    EXPECT_EQ(read.findings.compression, "none");
+    EXPECT_TRUE(read.whole == made::utf16(text)) << text << ": " << read.message;
+  }
+}
+
+}  // namespace
+}  // namespace textimport

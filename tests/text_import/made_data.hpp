@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+//
+// What the tests of the import layer are made of: packed data, sources that deliver in pieces and
+// fail when told to, and a short way to open them.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "text_import/import_error.hpp"
+#include "text_import/source/text_source.hpp"
+
+namespace textimport::made {
+
+/// `text` packed as compression_of() names it; "zip" holds one member, table.csv.
+std::string packed(std::string const& format, std::string const& text);
+
+/// A zip archive of members, name and content.
+std::string zip(std::vector<std::pair<std::string, std::string>> const& members);
+
+inline constexpr char const* packed_formats[] = {"gzip", "bzip2", "xz", "zstd", "lz4", "zip"};
+
+/// Lines "1,a", "2,b" ..., as many as fit into `bytes`.
+std::string table_of(std::size_t bytes);
+
+/// Delivers at most `piece` bytes a call, and an error at call number `failing_call` (from 1).
+class piecewise_source : public byte_source {
+ public:
+  explicit piecewise_source(std::string bytes, std::size_t piece = SIZE_MAX,
+                            std::size_t failing_call = 0)
+      : bytes_(std::move(bytes)), piece_(piece), failing_call_(failing_call) {}
+
+  std::size_t read(char* room, std::size_t capacity) override;
+
+ private:
+  std::string bytes_;
+  std::size_t piece_;
+  std::size_t failing_call_;
+  std::size_t position_ = 0;
+  std::size_t calls_ = 0;
+};
+
+/// What came of a text: its sample and stream, or the kinds of errors met at opening and reading.
+struct outcome {
+  bool is_open = false;
+  text_findings findings;
+  std::u16string sample;
+  std::u16string whole;
+  decoding_counts decoded;
+  std::string error;  // name_of() the kind, "" without; of open() or of the stream
+  std::string message;
+  std::uint64_t error_byte = 0;
+
+  /// True when something was said against the text.
+  [[nodiscard]] bool is_doubted() const { return !error.empty() || !findings.warnings.empty(); }
+};
+
+/// Opens and reads to the end.
+outcome read_all(std::unique_ptr<byte_source> bytes, open_options const& options = {});
+outcome read_all(std::string const& bytes, open_options const& options = {});
+
+/// UTF-8 to UTF-16, for expected texts.
+std::u16string utf16(std::string const& utf8);
+
+}  // namespace textimport::made
