@@ -23,14 +23,6 @@ using textio::detection::Outcome;
 using textio::detection::Reason;
 using textio::enums::StrategyMode;
 
-/// A strategy and how it came about.
-struct Finding {
-  std::shared_ptr<textio::GenericStrategy> strategy;
-  std::optional<DetectionReport> report;
-  Verdict verdict = Verdict::Given;
-  bool decided = true;
-};
-
 Verdict verdict_of(Reason const reason) {
   switch (reason) {
     case Reason::DateColumns:
@@ -49,18 +41,6 @@ Verdict verdict_of(Reason const reason) {
       break;
   }
   return Verdict::NoneLeft;
-}
-
-Finding detect(textio::parser::options const& parsing, Settings const& settings,
-               textio::Field const& sample) {
-  Finding finding;
-  DetectionReport report;
-  textio::detection::StrategySelector selector(parsing, settings.types);
-  finding.strategy = selector.pick_strategy(sample, settings.records, report);
-  finding.verdict = verdict_of(report.reason);
-  finding.decided = report.outcome != Outcome::CommaFallback;
-  finding.report = std::move(report);
-  return finding;
 }
 
 /// A strategy built by hand, sampled and scored.
@@ -83,11 +63,11 @@ bool found_delimiter(Finding const& finding, Settings const& settings) {
 /// The layout is given, the delimiter is not. When something else wins, the blank is left out,
 /// without which there is nothing but delimited candidates.
 Finding detect_delimiter(Settings const& settings, textio::Field const& sample) {
-  Finding finding = detect(settings.parsing, settings, sample);
+  Finding finding = detect_layout(settings.parsing, settings, sample.view());
   if (!found_delimiter(finding, settings)) {
     auto without_blank = settings.parsing;
     without_blank.thousands_separator = u" ";  // the mark that is never a delimiter
-    finding = detect(without_blank, settings, sample);
+    finding = detect_layout(without_blank, settings, sample.view());
   }
   if (!found_delimiter(finding, settings)) {
     finding.decided = finding.verdict == Verdict::NoRecords;
@@ -110,11 +90,10 @@ std::size_t longest_line(textio::GenericStrategy const& line_reader) {
 Finding detect_widths(Settings const& settings, textio::Field const& sample) {
   auto parsing = settings.parsing;
   parsing.layout = textio::enums::Layout::FixedWidth;
-  Finding finding = detect(parsing, settings, sample);
+  Finding finding = detect_layout(parsing, settings, sample.view());
   if (finding.strategy->mode() != StrategyMode::FixedWidth) {
     std::vector<std::size_t> widths{longest_line(*finding.report->line_reader)};
-    finding.strategy =
-        evaluated<textio::FixedWidthStrategy>(settings, sample, std::move(widths));
+    finding.strategy = evaluated<textio::FixedWidthStrategy>(settings, sample, std::move(widths));
   }
   return finding;
 }
@@ -122,7 +101,7 @@ Finding detect_widths(Settings const& settings, textio::Field const& sample) {
 Finding find(Settings const& settings, textio::Field const& sample) {
   auto const layout = implied_layout(settings);
   if (!layout) {
-    return detect(settings.parsing, settings, sample);
+    return detect_layout(settings.parsing, settings, sample.view());
   }
   Finding given;
   switch (*layout) {
@@ -176,39 +155,53 @@ std::vector<textio::enums::ColumnType> types_of(textio::GenericStrategy const& s
   return types;
 }
 
+/// The number that is given, else the one that was found.
+std::size_t header_lines_of(textio::GenericStrategy const& strategy, Settings const& settings) {
+  if (!settings.parsing.detect_header_lines) {
+    return settings.parsing.header_lines;
+  }
+  std::size_t const found = strategy.header_lines();
+  return found == textio::unknown_count ? 0 : found;
+}
+
 }  // namespace
+
+Finding detect_layout(textio::parser::options const& parsing, Settings const& settings,
+                      std::u16string_view const sample) {
+  Finding finding;
+  DetectionReport report;
+  textio::detection::StrategySelector selector(parsing, settings.types);
+  finding.strategy = selector.pick_strategy(textio::Field(sample), settings.records, report);
+  finding.verdict = verdict_of(report.reason);
+  finding.decided = report.outcome != Outcome::CommaFallback;
+  finding.report = std::move(report);
+  return finding;
+}
 
 Answer find_answer(std::string const& path, Settings const& settings) {
   auto text = textimport::text_source::open(path, settings.opening);
   std::u16string_view const sample = sample_of(text, settings);
-  Finding finding = find(settings, textio::Field(sample));
   Answer answer{.path = path,
                 .text = std::move(text),
                 .sample = sample,
-                .strategy = std::move(finding.strategy),
-                .report = std::move(finding.report),
-                .verdict = finding.verdict,
-                .decided = finding.decided,
+                .finding = find(settings, textio::Field(sample)),
                 .column_types = {},
                 .violation = {}};
-  answer.strategy->valuation();  // the comma fallback is not scored yet
-  answer.column_types = types_of(*answer.strategy);
-  auto const& parsing = settings.parsing;
-  std::size_t const found = answer.strategy->header_lines();
-  answer.header_lines = !parsing.detect_header_lines ? parsing.header_lines
-                        : found == textio::unknown_count ? 0
-                                                         : found;
-  if (answer.decided && !parsing.ignore_num_variables && !answer.column_types.empty() &&
-      answer.column_types.size() != parsing.num_variables) {
-    answer.decided = false;
-    answer.verdict = Verdict::ColumnsDiffer;
+  Finding& finding = answer.finding;
+  finding.strategy->valuation();  // the comma fallback is not scored yet
+  answer.column_types = types_of(*finding.strategy);
+  answer.header_lines = header_lines_of(*finding.strategy, settings);
+  if (finding.decided && !settings.parsing.ignore_num_variables && !answer.column_types.empty() &&
+      answer.column_types.size() != settings.parsing.num_variables) {
+    finding.decided = false;
+    finding.verdict = Verdict::ColumnsDiffer;
   }
   answer.violation = find_violation(answer, settings);
   return answer;
 }
 
 std::size_t records_sampled(Answer const& answer) {
-  return answer.strategy->field_array()->num_records();
+  return answer.finding.strategy->field_array()->num_records();
 }
 
 }  // namespace cli

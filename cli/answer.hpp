@@ -32,6 +32,15 @@ enum class Verdict : std::uint8_t {
   ColumnsDiffer,  ///< the user expects another number of columns
 };
 
+/// How a text is read, and how that was settled.
+struct Finding {
+  std::shared_ptr<textio::GenericStrategy> strategy;  ///< sampled
+  /// How it was found out; empty when the reading was given.
+  std::optional<textio::detection::DetectionReport> report;
+  Verdict verdict = Verdict::Given;
+  bool decided = true;
+};
+
 /// A record that breaks a rule which the user set to "error".
 struct Violation {
   std::size_t line = 1;  ///< of the file, counted from 1
@@ -41,18 +50,18 @@ struct Violation {
 struct Answer {
   std::string path;  ///< as it was typed, "-" for standard input
   textimport::text_source text;
-  std::u16string_view sample;  ///< what was looked at, kept alive by `text`
-  std::shared_ptr<textio::GenericStrategy> strategy;  ///< sampled and scored
-  /// How it was found out; empty when the reading was given.
-  std::optional<textio::detection::DetectionReport> report;
-  Verdict verdict = Verdict::Given;
-  bool decided = true;
+  std::u16string_view sample;                         ///< what was looked at, kept alive by `text`
+  Finding finding;  ///< scored
   /// The number that is given, else the strategy's.
   std::size_t header_lines = 0;
   /// One type for each column; empty for a text without records.
   std::vector<textio::enums::ColumnType> column_types;
   std::optional<Violation> violation;
 };
+
+/// The selector's decision about a sample under these options.
+[[nodiscard]] Finding detect_layout(textio::parser::options const& parsing,
+                                    Settings const& settings, std::u16string_view sample);
 
 /// Opens the file and finds out how it is laid out, as far as the settings leave that open.
 /// Throws textimport::import_error.

@@ -6,11 +6,11 @@
 
 #include "cli/arguments.hpp"
 
-#include <fmt/core.h>
-
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <string_view>
+
+#include <CLI/CLI.hpp>
+#include <fmt/core.h>
 
 #include "cli/usage_error.hpp"
 

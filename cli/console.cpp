@@ -2,11 +2,11 @@
 
 #include "cli/console.hpp"
 
-#include <unistd.h>
-
 #include <cerrno>
 #include <cstdlib>
 #include <system_error>
+
+#include <unistd.h>
 
 namespace cli {
 
@@ -56,6 +56,8 @@ Colors colors_of(std::string_view const choice) {
   return {};
 }
 
-bool input_is_terminal() { return ::isatty(STDIN_FILENO) == 1; }
+bool input_is_terminal() {
+  return ::isatty(STDIN_FILENO) == 1;
+}
 
 }  // namespace cli

@@ -2,9 +2,9 @@
 
 #include "cli/contradictions.hpp"
 
-#include <fmt/format.h>
-
 #include <algorithm>
+
+#include <fmt/format.h>
 
 #include "cli/usage_error.hpp"
 
@@ -69,9 +69,8 @@ void check_rules(Arguments const& arguments, Settings const& settings) {
     return;
   }
   std::string const space_aligned = "--layout space-aligned";
-  if (arguments.has(Option::Consecutive) &&
-      settings.parsing.consecutive_delimiters_rule !=
-          textio::enums::ConsecutiveDelimitersRule::Join) {
+  if (arguments.has(Option::Consecutive) && settings.parsing.consecutive_delimiters_rule !=
+                                                textio::enums::ConsecutiveDelimitersRule::Join) {
     refuse(typed(arguments, Option::Consecutive), space_aligned, "a run of blanks counts as one");
   }
   for (Option const rule : {Option::Leading, Option::Trailing}) {

@@ -2,11 +2,11 @@
 
 #include "cli/display_text.hpp"
 
-#include <fmt/format.h>
-#include <unicode/uchar.h>
-
 #include <algorithm>
 #include <cstdint>
+
+#include <fmt/format.h>
+#include <unicode/uchar.h>
 
 #include "cli/utf.hpp"
 
@@ -17,7 +17,9 @@ namespace {
 constexpr std::string_view ellipsis = "...";
 
 /// Zero-width characters that belong to the spelling of words and emoji.
-bool joins(char32_t const c) { return c == 0x200C || c == 0x200D; }
+bool joins(char32_t const c) {
+  return c == 0x200C || c == 0x200D;
+}
 
 bool is_shown_as_it_is(char32_t const c) {
   switch (u_charType(static_cast<UChar32>(c))) {

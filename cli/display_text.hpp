@@ -28,6 +28,7 @@ inline constexpr std::size_t any_width = std::numeric_limits<std::size_t>::max()
 [[nodiscard]] DisplayText display_bytes(std::string_view bytes, std::size_t max_cells = any_width);
 
 /// The text, followed by blanks up to `cells`, or preceded by them when it stands to the right.
-[[nodiscard]] std::string pad(DisplayText const& text, std::size_t cells, bool to_the_right = false);
+[[nodiscard]] std::string pad(DisplayText const& text, std::size_t cells,
+                              bool to_the_right = false);
 
 }  // namespace cli

@@ -2,9 +2,9 @@
 
 #include "cli/file_names.hpp"
 
-#include <fmt/format.h>
-
 #include <array>
+
+#include <fmt/format.h>
 
 #include "cli/display_text.hpp"
 #include "cli/usage_error.hpp"
@@ -49,10 +49,9 @@ std::optional<std::string> FileNames::next() {
 
 void FileNames::check(std::string const& name) const {
   if (name.empty()) {
-    throw usage_error(list_path_.empty()
-                          ? std::string("a file name is empty")
-                          : fmt::format("--files0-from {}: a file name is empty",
-                                        display_bytes(list_path_).utf8));
+    throw usage_error(list_path_.empty() ? std::string("a file name is empty")
+                                         : fmt::format("--files0-from {}: a file name is empty",
+                                                       display_bytes(list_path_).utf8));
   }
   if (name == "-" && list_path_ == "-") {
     throw usage_error("--files0-from -: standard input is the list, it cannot be a file of it");

@@ -2,11 +2,10 @@
 
 #include "cli/json_report.hpp"
 
-#include <fmt/format.h>
-
-#include <nlohmann/json.hpp>
-
 #include <algorithm>
+
+#include <fmt/format.h>
+#include <nlohmann/json.hpp>
 
 #include "cli/report.hpp"
 #include "cli/utf.hpp"
@@ -59,9 +58,9 @@ ordered_json answer_object(Answer const& answer, Settings const& settings) {
   auto const& findings = answer.text.findings();
   ordered_json object{{"schema", json_schema}};
   add_path(object, answer.path);
-  object["decided"] = answer.decided;
-  object["reason"] = verdict_word(answer.verdict);
-  add_reading(object, *answer.strategy);
+  object["decided"] = answer.finding.decided;
+  object["reason"] = verdict_word(answer.finding.verdict);
+  add_reading(object, *answer.finding.strategy);
   object["header_lines"] = answer.header_lines;
   object["num_variables"] = answer.column_types.size();
   object["column_types"] = ordered_json::array();

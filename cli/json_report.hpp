@@ -5,9 +5,9 @@
 // to show on a terminal.
 #pragma once
 
-#include <nlohmann/json_fwd.hpp>
-
 #include <string>
+
+#include <nlohmann/json_fwd.hpp>
 
 #include "cli/answer.hpp"
 #include "cli/settings.hpp"

@@ -2,9 +2,9 @@
 
 #include "cli/lines.hpp"
 
-#include <fmt/format.h>
-
 #include <algorithm>
+
+#include <fmt/format.h>
 
 #include "cli/display_text.hpp"
 

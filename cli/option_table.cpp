@@ -112,17 +112,20 @@ constexpr std::array option_table{
                "Whether to use colour. \"auto\" does on a terminal, unless NO_COLOR is set or TERM "
                "is \"dumb\"."},
 
-    OptionSpec{Option::Help, Section::Program, 'h', "help", none, none, false,
-               "Print this help."},
+    OptionSpec{Option::Help, Section::Program, 'h', "help", none, none, false, "Print this help."},
     OptionSpec{Option::Version, Section::Program, 'V', "version", none, none, false,
                "Print the version."},
 };
 
 }  // namespace
 
-std::span<CommandSpec const> commands() { return command_table; }
+std::span<CommandSpec const> commands() {
+  return command_table;
+}
 
-std::span<OptionSpec const> options() { return option_table; }
+std::span<OptionSpec const> options() {
+  return option_table;
+}
 
 OptionSpec const& spec(Option const option) {
   return *std::ranges::find(option_table, option, &OptionSpec::option);
@@ -146,7 +149,9 @@ std::string_view section_title(Section const section) {
   return "The program";
 }
 
-std::string flag(Option const option) { return "--" + std::string(spec(option).name); }
+std::string flag(Option const option) {
+  return "--" + std::string(spec(option).name);
+}
 
 std::vector<std::string_view> choices(OptionSpec const& spec) {
   std::vector<std::string_view> words;

@@ -2,13 +2,13 @@
 
 #include "cli/option_values.hpp"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <charconv>
 #include <limits>
 #include <optional>
 #include <system_error>
+
+#include <fmt/format.h>
 
 #include "cli/display_text.hpp"
 #include "cli/usage_error.hpp"
@@ -55,8 +55,8 @@ std::optional<char16_t> unescaped(std::u16string_view& rest) {
 
 void refuse_value(Option const option, std::string_view const value,
                   std::string_view const allowed) {
-  throw usage_error(fmt::format("{} \"{}\": expected {}", flag(option), display_bytes(value).utf8,
-                                allowed));
+  throw usage_error(
+      fmt::format("{} \"{}\": expected {}", flag(option), display_bytes(value).utf8, allowed));
 }
 
 std::size_t count_value(Option const option, std::string_view const word, std::size_t const least,

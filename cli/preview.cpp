@@ -47,8 +47,8 @@ std::u16string unquoted(std::u16string_view value, std::u16string_view const quo
   std::u16string plain;
   for (std::size_t i = 0; i < value.size(); ++i) {
     plain += value[i];
-    bool const doubled = value[i] == quotes.front() && i + 1 < value.size() &&
-                         value[i + 1] == quotes.front();
+    bool const doubled =
+        value[i] == quotes.front() && i + 1 < value.size() && value[i + 1] == quotes.front();
     i += doubled ? 1 : 0;
   }
   return plain;
@@ -65,11 +65,11 @@ std::u16string cell(textio::Field const& field, StrategyMode const mode,
 }  // namespace
 
 textio::parser::options reading_options(Answer const& answer, Settings const& settings) {
-  auto options = answer.strategy->options();
+  auto options = answer.finding.strategy->options();
   auto const& given = settings.parsing;
   options.empty_lines = given.empty_lines;
   options.partial_field_rule = given.partial_field_rule;
-  if (answer.strategy->mode() == StrategyMode::Delimited) {
+  if (answer.finding.strategy->mode() == StrategyMode::Delimited) {
     options.consecutive_delimiters_rule = given.consecutive_delimiters_rule;
     options.leading_delimiters_rule = given.leading_delimiters_rule;
     options.trailing_delimiters_rule = given.trailing_delimiters_rule;
@@ -82,7 +82,7 @@ std::size_t header_length(Answer const& answer) {
     return 0;
   }
   textio::FieldArray fields;
-  return textio::read_records(answer.strategy->options(), answer.strategy->mode(),
+  return textio::read_records(answer.finding.strategy->options(), answer.finding.strategy->mode(),
                               textio::Field(answer.sample), textio::unknown_count,
                               answer.header_lines, fields)
       .units_consumed;
@@ -96,7 +96,7 @@ Preview make_preview(Answer const& answer, Settings const& settings) {
     preview.header_lines.push_back(take_line(head, settings.parsing.line_endings));
   }
   // For show: what the rules forbid is reported elsewhere.
-  auto options = answer.strategy->options();
+  auto options = answer.finding.strategy->options();
   auto const asked = reading_options(answer, settings);
   if (asked.empty_lines == textio::enums::EmptyLineRule::Skip) {
     options.empty_lines = asked.empty_lines;
@@ -105,7 +105,7 @@ Preview make_preview(Answer const& answer, Settings const& settings) {
     options.partial_field_rule = asked.partial_field_rule;
   }
   textio::FieldArray fields;
-  auto const mode = answer.strategy->mode();
+  auto const mode = answer.finding.strategy->mode();
   textio::read_records(options, mode, textio::Field(answer.sample.substr(header)), settings.rows,
                        textio::unknown_count, fields);
   for (std::size_t record = 0; record < std::min(fields.num_records(), settings.rows); ++record) {

@@ -2,9 +2,9 @@
 
 #include "cli/report.hpp"
 
-#include <fmt/format.h>
-
 #include <algorithm>
+
+#include <fmt/format.h>
 
 #include "cli/display_text.hpp"
 #include "cli/lines.hpp"
@@ -28,8 +28,8 @@ std::string given_mark(Settings const& settings, std::initializer_list<Option> c
 }
 
 std::string layout_text(Answer const& answer, Settings const& settings) {
-  std::string_view const word = layout_word(answer.strategy->mode());
-  if (!answer.decided && answer.verdict != Verdict::ColumnsDiffer) {
+  std::string_view const word = layout_word(answer.finding.strategy->mode());
+  if (!answer.finding.decided && answer.finding.verdict != Verdict::ColumnsDiffer) {
     return fmt::format("not decided; read as {}", word);
   }
   return std::string(word) +
@@ -40,8 +40,8 @@ std::string header_text(Answer const& answer, Settings const& settings) {
   if (settings.is_given(Option::HeaderLines) && !settings.parsing.detect_header_lines) {
     return fmt::format("{} (given)", answer.header_lines);
   }
-  bool const may_be_names = answer.header_lines == 0 && !answer.column_types.empty() &&
-                            answer.strategy->mode() != StrategyMode::LineReader;
+  bool const may_be_names = !answer.column_types.empty() &&
+                            answer.finding.strategy->mode() != StrategyMode::LineReader;
   return fmt::format("{}{}", answer.header_lines,
                      may_be_names ? "; the first row may be names" : "");
 }
@@ -53,9 +53,9 @@ std::string widths_text(std::vector<std::size_t> const& widths) {
 std::string text_text(Answer const& answer, Settings const& settings) {
   auto const& findings = answer.text.findings();
   std::string text = findings.encoding.name;
-  text += settings.is_given(Option::Encoding)   ? " (given)"
-          : findings.encoding.is_guess() ? " (a guess)"
-                                         : "";
+  text += settings.is_given(Option::Encoding) ? " (given)"
+          : findings.encoding.is_guess()      ? " (a guess)"
+                                              : "";
   auto const& ends = findings.line_endings;
   std::string_view const ending = line_ending_word(ends);
   if (ending == "mixed") {
@@ -69,10 +69,10 @@ std::string text_text(Answer const& answer, Settings const& settings) {
   return text;
 }
 
-std::string sampled_text(Answer const& answer) {
+std::string sampled_text(Answer const& answer, Settings const& settings) {
   std::size_t const records = records_sampled(answer);
-  return fmt::format("{} record{}, header lines included{}", records, records == 1 ? "" : "s",
-                     answer.text.findings().goes_on ? "; the file goes on" : "");
+  bool const more = records >= settings.records || answer.text.findings().goes_on;
+  return fmt::format("{}{} record{}", more ? "the first " : "", records, records == 1 ? "" : "s");
 }
 
 void add_header_lines(std::string& text, Preview const& preview, std::size_t const width) {
@@ -89,8 +89,8 @@ void add_header_lines(std::string& text, Preview const& preview, std::size_t con
 
 std::string rows_text(Answer const& answer, Preview const& preview, Settings const& settings) {
   TableSpace const space{.width = settings.width, .indent = table_indent};
-  if (answer.strategy->mode() == StrategyMode::FixedWidth) {
-    return ruled_table(answer.strategy->options().column_widths, preview.rows, space);
+  if (answer.finding.strategy->mode() == StrategyMode::FixedWidth) {
+    return ruled_table(answer.finding.strategy->options().column_widths, preview.rows, space);
   }
   std::vector<TableColumn> columns;
   for (ColumnType const type : answer.column_types) {
@@ -113,29 +113,32 @@ std::string other_options(Settings const& settings) {
 /// What is known, line by line.
 std::string facts(Answer const& answer, Settings const& settings, Preview const& preview) {
   FactLines lines(settings.width);
-  auto const& options = answer.strategy->options();
-  auto const mode = answer.strategy->mode();
+  auto const& options = answer.finding.strategy->options();
+  auto const mode = answer.finding.strategy->mode();
   lines.add("layout", layout_text(answer, settings));
   if (mode == StrategyMode::Delimited || mode == StrategyMode::SpaceAligned) {
     lines.add("delimiter",
-              reading_name(*answer.strategy) + given_mark(settings, {Option::Delimiter}));
+              reading_name(*answer.finding.strategy) + given_mark(settings, {Option::Delimiter}));
   } else if (mode == StrategyMode::FixedWidth) {
     lines.add("widths",
               widths_text(options.column_widths) + given_mark(settings, {Option::Widths}));
   }
   lines.add("header lines", header_text(answer, settings));
   add_header_lines(lines.text(), preview, settings.width);
-  lines.add("columns", fmt::format("{}{}{}", answer.column_types.size(),
-                                   given_mark(settings, {Option::Columns}),
-                                   answer.column_types.empty()
-                                       ? ""
-                                       : ": " + type_runs(answer.column_types)));
+  lines.add(
+      "columns",
+      fmt::format("{}{}{}", answer.column_types.size(), given_mark(settings, {Option::Columns}),
+                  answer.column_types.empty() ? "" : ": " + type_runs(answer.column_types)));
   lines.add("text", text_text(answer, settings));
-  lines.add("sampled", sampled_text(answer));
+  lines.add("sampled", sampled_text(answer, settings));
   if (std::string const others = other_options(settings); !others.empty()) {
     lines.add("given", others);
   }
   lines.add("why", why(answer, settings));
+  if (auto const& encoding = answer.text.findings().encoding; encoding.is_guess()) {
+    lines.add("note", fmt::format("the encoding is a guess: {}; --encoding names it",
+                                  encoding.explanation));
+  }
   for (std::string const& note : notes(answer)) {
     lines.add("note", note);
   }
@@ -165,23 +168,25 @@ std::string type_runs(std::vector<ColumnType> const& types) {
 std::vector<std::string> notes(Answer const& answer) {
   auto const& findings = answer.text.findings();
   std::vector<std::string> notes;
-  if (findings.encoding.is_guess()) {
-    notes.push_back(fmt::format("the encoding is a guess: {}; --encoding names it",
-                                findings.encoding.explanation));
-  }
   if (findings.no_line_end) {
-    notes.emplace_back("no line ends in the sample, which is a piece of one line; a larger "
-                       "--sample-size may help");
+    notes.emplace_back(
+        "no line ends in the sample, which is a piece of one line; a larger "
+        "--sample-size may help");
   }
   if (auto const bad = findings.decoding.bad_bytes; bad > 0) {
-    notes.push_back(fmt::format("{} byte{} without a meaning in {} replaced by U+FFFD, first at "
-                                "byte {}",
-                                bad, bad == 1 ? "" : "s", findings.encoding.name,
-                                findings.decoding.first_bad_offsets.front()));
+    notes.push_back(
+        fmt::format("{} byte{} without a meaning in {} replaced by U+FFFD, first at "
+                    "byte {}",
+                    bad, bad == 1 ? "" : "s", findings.encoding.name,
+                    findings.decoding.first_bad_offsets.front()));
   }
   if (findings.nuls > 0) {
     notes.push_back(fmt::format("the sample holds {} NUL character{}", findings.nuls,
                                 findings.nuls == 1 ? "" : "s"));
+  }
+  if (std::size_t const records = records_sampled(answer); answer.header_lines * 2 > records) {
+    notes.push_back(fmt::format("{} of {} records are header lines: have a look at the rest",
+                                std::min(answer.header_lines, records), records));
   }
   notes.insert(notes.end(), findings.warnings.begin(), findings.warnings.end());
   return notes;
@@ -189,8 +194,8 @@ std::vector<std::string> notes(Answer const& answer) {
 
 std::string report(Answer const& answer, Settings const& settings, Colors const& colors) {
   Preview const preview = make_preview(answer, settings);
-  std::string text = fmt::format("{}{}{}\n", colors.heading,
-                                 display_bytes(answer.path).utf8, colors.reset);
+  std::string text =
+      fmt::format("{}{}{}\n", colors.heading, display_bytes(answer.path).utf8, colors.reset);
   text += facts(answer, settings, preview);
   if (!preview.rows.empty()) {
     text += "\n" + rows_text(answer, preview, settings);

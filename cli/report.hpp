@@ -16,7 +16,7 @@ namespace cli {
 [[nodiscard]] std::string report(Answer const& answer, Settings const& settings,
                                  Colors const& colors);
 
-/// What the user should know about the text beside the answer: guesses, damage, replaced bytes.
+/// What the user should know about the text beside the answer: damage, replaced bytes.
 [[nodiscard]] std::vector<std::string> notes(Answer const& answer);
 
 /// The column types with their positions, runs of equal ones taken together: "1-3 number, 4 text".

@@ -57,7 +57,7 @@ std::size_t line_at(std::u16string_view const text) {
 
 std::optional<Violation> find_violation(Answer const& answer, Settings const& settings) {
   auto const options = reading_options(answer, settings);
-  auto const mode = answer.strategy->mode();
+  auto const mode = answer.finding.strategy->mode();
   std::size_t pos = header_length(answer);
   std::size_t consumed = 0;
   if (broken_rule(options, mode, answer.sample.substr(pos), settings.records, consumed).empty()) {
@@ -65,8 +65,7 @@ std::optional<Violation> find_violation(Answer const& answer, Settings const& se
   }
   // Once more, record by record: the errors do not say where they happened.
   while (pos < answer.sample.size()) {
-    std::string const broken =
-        broken_rule(options, mode, answer.sample.substr(pos), 1, consumed);
+    std::string const broken = broken_rule(options, mode, answer.sample.substr(pos), 1, consumed);
     if (!broken.empty() || consumed == 0) {
       return Violation{.line = line_at(answer.sample.substr(0, pos)), .message = broken};
     }

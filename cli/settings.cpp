@@ -4,12 +4,12 @@
 
 #include "cli/settings.hpp"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <cstdint>
 #include <exception>
 #include <limits>
+
+#include <fmt/format.h>
 
 #include "cli/contradictions.hpp"
 #include "cli/option_values.hpp"
@@ -57,9 +57,9 @@ void take_reading(Arguments const& arguments, Settings& settings) {
     settings.opening.sample_bytes = size_value(Option::SampleSize, word, largest_sample_bytes);
   });
   with_value(arguments, Option::Records, [&](std::string const& word) {
-    settings.records = word == "all" ? textio::unknown_count
-                                     : count_value(Option::Records, word, 1, largest_count,
-                                                   ", or \"all\"");
+    settings.records = word == "all"
+                           ? textio::unknown_count
+                           : count_value(Option::Records, word, 1, largest_count, ", or \"all\"");
   });
 }
 
@@ -114,16 +114,16 @@ void take_records(Arguments const& arguments, Settings& settings) {
   if (arguments.has(Option::Comment)) {
     auto const& words = arguments.given.at(Option::Comment);
     if (words.size() > 2) {
-      throw usage_error(fmt::format("--comment is given {} times: once for comments that end with "
-                                    "the line, twice for the marks around a comment",
-                                    words.size()));
+      throw usage_error(
+          fmt::format("--comment is given {} times: once for comments that end with "
+                      "the line, twice for the marks around a comment",
+                      words.size()));
     }
     parsing.comment_style = text_values(arguments, Option::Comment);
   }
   with_value(arguments, Option::Quote, [&](std::string const& word) {
-    parsing.quote_characters = word == "none"
-                                   ? std::u16string()
-                                   : std::u16string(1, character_value(Option::Quote, word));
+    parsing.quote_characters =
+        word == "none" ? std::u16string() : std::u16string(1, character_value(Option::Quote, word));
   });
   with_value(arguments, Option::Whitespace, [&](std::string const& word) {
     parsing.whitespace = text_value(Option::Whitespace, word);

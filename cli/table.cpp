@@ -2,9 +2,9 @@
 
 #include "cli/table.hpp"
 
-#include <fmt/format.h>
-
 #include <algorithm>
+
+#include <fmt/format.h>
 
 #include "cli/display_text.hpp"
 
@@ -46,8 +46,8 @@ std::size_t columns_that_fit(Grid const& grid, std::size_t const between, std::s
 
 /// Cuts the values no more than needed: the first of these lengths that lets every column fit, or
 /// else one that leaves most of them readable.
-Grid fitting_grid(Rows const& rows, std::vector<std::size_t> const& least, std::size_t const between,
-                  std::size_t const room) {
+Grid fitting_grid(Rows const& rows, std::vector<std::size_t> const& least,
+                  std::size_t const between, std::size_t const room) {
   std::size_t const whole = std::max<std::size_t>(room, 8);
   for (std::size_t const cap : {whole, whole / 2, whole / 3, std::size_t{16}}) {
     Grid grid = make_grid(rows, least, std::max<std::size_t>(cap, 8));

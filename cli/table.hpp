@@ -17,8 +17,8 @@ struct TableColumn {
 
 /// Where a table may stand.
 struct TableSpace {
-  std::size_t width = 80;   ///< cells a line
-  std::size_t indent = 4;   ///< blanks in front of each line
+  std::size_t width = 80;  ///< cells a line
+  std::size_t indent = 4;  ///< blanks in front of each line
 };
 
 using Rows = std::vector<std::vector<std::u16string>>;

@@ -2,9 +2,9 @@
 
 #include "cli/utf.hpp"
 
-#include <unicode/ustring.h>
-
 #include <cstdint>
+
+#include <unicode/ustring.h>
 
 namespace cli {
 

@@ -13,7 +13,9 @@ namespace cli {
 /// The character at `pos`, which moves behind it. A lone surrogate comes back as itself.
 [[nodiscard]] char32_t next_character(std::u16string_view text, std::size_t& pos);
 
-[[nodiscard]] inline bool is_surrogate(char32_t const c) { return c >= 0xD800 && c <= 0xDFFF; }
+[[nodiscard]] inline bool is_surrogate(char32_t const c) {
+  return c >= 0xD800 && c <= 0xDFFF;
+}
 
 void append_utf8(std::string& bytes, char32_t c);
 

@@ -2,12 +2,12 @@
 
 #include "cli/words.hpp"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <array>
 #include <utility>
 #include <vector>
+
+#include <fmt/format.h>
 
 #include "cli/display_text.hpp"
 
@@ -74,18 +74,21 @@ std::string level_candidates(textio::detection::DetectionReport const& report) {
 }
 
 std::string why_single(Answer const& answer) {
-  if (answer.strategy->mode() == StrategyMode::FixedWidth && answer.report->sampled.size() <= 2) {
+  if (answer.finding.strategy->mode() == StrategyMode::FixedWidth && answer.finding.report->sampled.size() <= 2) {
     return "the columns are what the blanks common to all lines leave";
   }
-  return fmt::format("of {} readings that were tried, only this one splits the lines regularly",
-                     answer.report->sampled.size());
+  std::size_t const tried = answer.finding.report->sampled.size();
+  return tried == 1 ? "the only reading that was tried, and it splits the lines regularly"
+                    : fmt::format(
+                          "of {} readings that were tried, only this one splits the lines "
+                          "regularly",
+                          tried);
 }
 
 std::string why_ranked(Answer const& answer) {
-  auto const& report = *answer.report;
+  auto const& report = *answer.finding.report;
   std::string_view const rule = report.steps.back().rule;
-  return fmt::format("of {} regular readings, it alone has {}", report.candidates.size(),
-                     rule_meaning(rule));
+  return fmt::format("of {} regular readings, {}", report.candidates.size(), rule_meaning(rule));
 }
 
 std::string why_given(Settings const& settings) {
@@ -241,13 +244,13 @@ std::string reading_name(textio::GenericStrategy const& strategy) {
 
 std::string_view rule_meaning(std::string_view const rule) {
   constexpr std::array<std::pair<std::string_view, std::string_view>, 7> meanings{{
-      {"numvariables", "the number of columns that is expected"},
-      {"dates", "columns of dates or times"},
-      {"variation", "records as regular as these"},
-      {"class_value", "column types that tell as much"},
-      {"header_lines", "so few header lines"},
-      {"non_empty", "so large a share of columns with values"},
-      {"priors_rank", "so usual a delimiter"},
+      {"numvariables", "only this one has the number of columns that is expected"},
+      {"dates", "only this one has columns of dates or times"},
+      {"variation", "this one's records are the most regular"},
+      {"class_value", "this one's column types tell the most"},
+      {"header_lines", "this one has the fewest header lines"},
+      {"non_empty", "this one has the largest share of columns with values"},
+      {"priors_rank", "this one's delimiter is the most usual"},
   }};
   auto const* const known =
       std::ranges::find(meanings, rule, &decltype(meanings)::value_type::first);
@@ -255,7 +258,7 @@ std::string_view rule_meaning(std::string_view const rule) {
 }
 
 std::string why(Answer const& answer, Settings const& settings) {
-  switch (answer.verdict) {
+  switch (answer.finding.verdict) {
     case Verdict::DateColumns:
       return "each line as a whole is a date or a time; the comma is a fallback";
     case Verdict::NoRecords:
@@ -268,7 +271,7 @@ std::string why(Answer const& answer, Settings const& settings) {
       return why_ranked(answer);
     case Verdict::Tie:
       return fmt::format("the rules left several readings level ({}); the comma is a fallback",
-                         level_candidates(*answer.report));
+                         level_candidates(*answer.finding.report));
     case Verdict::NoneLeft:
       return "the rules left no reading";
     case Verdict::Given:

@@ -31,7 +31,7 @@ namespace cli {
 /// How a strategy reads a line, in a few words: "comma", "runs of blanks", "fixed widths".
 [[nodiscard]] std::string reading_name(textio::GenericStrategy const& strategy);
 
-/// What a ranking rule prefers, as in "it alone has ...".
+/// Why a ranking rule prefers what it keeps: "only this one has columns of dates or times".
 [[nodiscard]] std::string_view rule_meaning(std::string_view rule);
 
 /// One sentence on why the answer is what it is.

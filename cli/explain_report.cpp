@@ -1,0 +1,285 @@
+// SPDX-License-Identifier: MIT
+
+#include "cli/explain_report.hpp"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <utility>
+#include <vector>
+
+#include "cli/display_text.hpp"
+#include "cli/lines.hpp"
+#include "cli/utf.hpp"
+#include "cli/words.hpp"
+
+namespace cli {
+
+namespace {
+
+using textio::detection::CandidateFate;
+using textio::detection::DetectionReport;
+using textio::detection::RejectionClause;
+using textio::detection::SampledStrategy;
+using textio::enums::StrategyMode;
+
+constexpr std::size_t indent = 4;
+
+/// What became of a strategy, in at most 24 cells.
+std::string_view fate_text(SampledStrategy const& sampled) {
+  switch (sampled.fate) {
+    case CandidateFate::Accepted:
+      return "accepted";
+    case CandidateFate::LessTyped:
+      return "fewer typed columns";
+    case CandidateFate::ReplacedByFixedWidth:
+      return "fixed widths fit better";
+    case CandidateFate::Rejected:
+      break;
+  }
+  switch (sampled.clause) {
+    case RejectionClause::SingleRecordUncommonDelimiter:
+      return "rare, and one record";
+    case RejectionClause::SingleRecordOneField:
+    case RejectionClause::OneField:
+      return "one field a record";
+    case RejectionClause::None:
+    case RejectionClause::SingleRecordIrregular:
+    case RejectionClause::Irregular:
+      break;
+  }
+  return "irregular";
+}
+
+/// A number of a score: without needless decimals, and a word where there is none.
+std::string number_text(double const number) {
+  constexpr double largest_real = 1e15;  // what stands above marks the end of a list
+  return std::isfinite(number) && number < largest_real ? fmt::format("{:.4g}", number) : "none";
+}
+
+std::string reading_with_position(DetectionReport const& report, std::size_t const candidate) {
+  return fmt::format("{} ({})", candidate + 1, reading_name(*report.candidates[candidate]));
+}
+
+/// A reading as an answer: "delimited by comma, 6 columns, 0 header lines".
+std::string reading_sentence(textio::GenericStrategy const& strategy) {
+  std::size_t const header =
+      strategy.header_lines() == textio::unknown_count ? 0 : strategy.header_lines();
+  std::size_t const columns = strategy.num_variables();
+  return fmt::format("{}, {} column{}, {} header line{}", reading_name(strategy), columns,
+                     columns == 1 ? "" : "s", header, header == 1 ? "" : "s");
+}
+
+std::string heading(std::string_view const text, Colors const& colors) {
+  return fmt::format("\n{}{}{}\n", colors.heading, text, colors.reset);
+}
+
+std::string paragraph(std::string_view const text, std::size_t const width) {
+  return std::string(indent, ' ') + wrapped(text, indent, width);
+}
+
+std::string_view untried_text(NotTried const why) {
+  switch (why) {
+    case NotTried::DecimalMark:
+      return "the decimal mark (--decimal-mark)";
+    case NotTried::ThousandsMark:
+      return "the thousands mark (--thousands-mark)";
+    case NotTried::NeverDelimiter:
+      return "never delimiters: quotes, brackets and signs belong to values";
+    case NotTried::NotAscii:
+      return "not ASCII; --delimiter reads with any text";
+    case NotTried::OutsideMiddle:
+      break;
+  }
+  return "only in the first and last lines, where titles and sums stand";
+}
+
+/// The characters that were left out for one reason, in one paragraph.
+std::string untried_paragraph(Explanation const& explanation, NotTried const why,
+                              std::size_t const width) {
+  constexpr std::size_t most = 20;
+  std::vector<std::string> names;
+  std::size_t count = 0;
+  for (UntriedCharacter const& untried : explanation.untried) {
+    if (untried.why == why && ++count <= most) {
+      std::string bytes;
+      append_utf8(bytes, is_surrogate(untried.character) ? U'\uFFFD' : untried.character);
+      auto const text = from_utf8(bytes);
+      names.push_back(delimiter_name(*text));
+    }
+  }
+  if (count == 0) {
+    return {};
+  }
+  std::string const more = count > most ? fmt::format(" and {} more", count - most) : "";
+  return paragraph(fmt::format("{}{}: {}", fmt::join(names, ", "), more, untried_text(why)), width);
+}
+
+std::string characters_text(Answer const& answer, Explanation const& explanation,
+                            std::size_t const width) {
+  std::vector<std::string> tried;
+  for (SampledStrategy const& sampled : answer.finding.report->sampled) {
+    std::string const name = reading_name(*sampled.strategy);
+    if (std::ranges::find(tried, name) == tried.end()) {
+      tried.push_back(name);
+    }
+  }
+  std::string text = paragraph(
+      tried.empty() ? "tried: none" : fmt::format("tried: {}", fmt::join(tried, ", ")), width);
+  text += paragraph("not tried: letters and digits, and of the others in the text", width);
+  std::string others;
+  for (NotTried const why : {NotTried::DecimalMark, NotTried::ThousandsMark,
+                             NotTried::NeverDelimiter, NotTried::NotAscii,
+                             NotTried::OutsideMiddle}) {
+    others += untried_paragraph(explanation, why, width);
+  }
+  return text + (others.empty() ? paragraph("none", width) : others);
+}
+
+/// One line of the table of candidates; `position` is empty for what is no candidate.
+std::string candidate_line(std::string const& position, textio::GenericStrategy& strategy,
+                           std::string_view const fate) {
+  constexpr std::size_t name_cells = 17;
+  auto const& score = strategy.valuation();
+  std::size_t const header =
+      score.header_lines == textio::unknown_count ? 0 : score.header_lines;
+  auto const name = display_bytes(reading_name(strategy), name_cells);
+  return fmt::format("  {:>3}  {} {:>7} {:>9} {:>7} {:>6}  {}\n", position, pad(name, name_cells),
+                     score.num_variables, number_text(score.data_variation),
+                     fmt::format("{}/{}", score.typed_columns, score.num_variables), header, fate);
+}
+
+constexpr std::string_view candidate_heading =
+    "    #  reading           columns irregular   typed header  outcome\n";
+
+std::string candidates_text(DetectionReport const& report) {
+  std::string text(candidate_heading);
+  for (SampledStrategy const& sampled : report.sampled) {
+    std::string const position =
+        sampled.candidate ? fmt::format("{}", *sampled.candidate + 1) : std::string("-");
+    text += candidate_line(position, *sampled.strategy, fate_text(sampled));
+  }
+  return text;
+}
+
+/// Who was kept or fell at a rule, each with its number.
+std::string with_numbers(DetectionReport const& report, RuleNumbers const& rule, bool const kept) {
+  std::vector<std::string> parts;
+  for (std::size_t i = 0; i < rule.seen.size(); ++i) {
+    std::size_t const candidate = rule.seen[i];
+    if (std::ranges::binary_search(rule.kept, candidate) == kept) {
+      parts.push_back(fmt::format("{} {}", reading_with_position(report, candidate),
+                                  number_text(rule.numbers[i])));
+    }
+  }
+  return parts.empty() ? "none" : fmt::format("{}", fmt::join(parts, ", "));
+}
+
+std::string_view rule_text(std::string_view const rule) {
+  constexpr std::array<std::pair<std::string_view, std::string_view>, 7> texts{{
+      {"numvariables", "the number of columns that is expected"},
+      {"dates", "any columns of dates and times"},
+      {"variation", "least irregular, small differences aside"},
+      {"class_value", "most telling column types: a date with time counts 25, a date or duration "
+                      "10, a number 3, another type 1, a lone delimiter -1"},
+      {"header_lines", "fewest header lines, if the records are all alike"},
+      {"non_empty", "largest share of columns with values"},
+      {"priors_rank", "most usual delimiter: comma 0, tab 1, semicolon 2, space 3, runs of blanks "
+                      "3.5"},
+  }};
+  auto const* const known = std::ranges::find(texts, rule, &decltype(texts)::value_type::first);
+  return known == texts.end() ? rule : known->second;
+}
+
+std::string rules_text(DetectionReport const& report, Explanation const& explanation,
+                       std::size_t const width) {
+  std::string text;
+  std::size_t number = 0;
+  for (RuleNumbers const& rule : explanation.rules) {
+    text += fmt::format("  {}. {}: ", ++number, rule.rule) +
+            wrapped(rule_text(rule.rule), indent + 1 + rule.rule.size() + 2, width);
+    bool const none_fell = rule.kept.size() == rule.seen.size();
+    text += paragraph(fmt::format("{} of {} stay: {}", rule.kept.size(), rule.seen.size(),
+                                  with_numbers(report, rule, true)),
+                      width);
+    if (!none_fell) {
+      text += paragraph("out: " + with_numbers(report, rule, false), width);
+    }
+  }
+  return text;
+}
+
+std::string runners_up_text(DetectionReport const& report, Explanation const& explanation) {
+  std::vector<std::string> names;
+  for (std::size_t const candidate : explanation.runners_up) {
+    names.push_back(reading_name(*report.candidates[candidate]));
+  }
+  std::string const margin =
+      explanation.margin ? fmt::format(", by {}", number_text(*explanation.margin)) : "";
+  return fmt::format("{} (fell at {}{})", fmt::join(names, ", "), explanation.rules.back().rule,
+                     margin);
+}
+
+std::string answer_text(Answer const& answer) {
+  std::string const reading = reading_sentence(*answer.finding.strategy);
+  return answer.finding.decided ? reading : "not decided; read as " + reading;
+}
+
+std::string without_winner_text(Finding const& finding) {
+  std::string const reading = reading_sentence(*finding.strategy);
+  return finding.decided ? reading
+                         : fmt::format("not decided ({})", verdict_word(finding.verdict));
+}
+
+std::string summary(Answer const& answer, Settings const& settings,
+                    Explanation const& explanation) {
+  FactLines lines(settings.width);
+  lines.add("answer", answer_text(answer));
+  lines.add("why", why(answer, settings));
+  if (!explanation.runners_up.empty()) {
+    lines.add("runner-up", runners_up_text(*answer.finding.report, explanation));
+  }
+  if (explanation.without_winner) {
+    bool const delimited = answer.finding.strategy->mode() == StrategyMode::Delimited;
+    std::string const name =
+        delimited ? reading_name(*answer.finding.strategy) : std::string("blanks");
+    lines.add("else", fmt::format("without {}: {}", name,
+                                  without_winner_text(*explanation.without_winner)));
+  }
+  return lines.text();
+}
+
+}  // namespace
+
+std::string explain_report(Answer const& answer, Settings const& settings, Colors const& colors) {
+  Explanation const explanation = explain_answer(answer, settings);
+  std::string text = fmt::format("{}{}{}\n", colors.heading, display_bytes(answer.path).utf8,
+                                 colors.reset);
+  text += summary(answer, settings, explanation);
+  if (!answer.finding.report) {
+    text += heading("The reading that was given", colors);
+    text += candidate_heading;
+    return text + candidate_line("-", *answer.finding.strategy, "given");
+  }
+  DetectionReport const& report = *answer.finding.report;
+  text += heading("First each line was read as one value", colors);
+  text += candidate_heading;
+  bool const dates = report.reason == textio::detection::Reason::DateColumns;
+  text += candidate_line("-", *report.line_reader, dates ? "dates or times: no table" : "");
+  if (dates || report.reason == textio::detection::Reason::NoRecords) {
+    return text;
+  }
+  text += heading("Characters in the middle lines of the sample", colors);
+  text += characters_text(answer, explanation, settings.width);
+  text += heading("Readings that were tried; irregular must be below 1", colors);
+  text += candidates_text(report);
+  if (!explanation.rules.empty()) {
+    text += heading("Rules, in their order, until one reading is left", colors);
+    text += rules_text(report, explanation, settings.width);
+  }
+  return text;
+}
+
+}  // namespace cli

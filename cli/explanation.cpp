@@ -1,0 +1,178 @@
+// SPDX-License-Identifier: MIT
+
+#include "cli/explanation.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <set>
+
+#include "cli/utf.hpp"
+#include "text_format_detection/detection/strategy_selector.hpp"
+
+namespace cli {
+
+namespace {
+
+using textio::detection::Outcome;
+using textio::enums::StrategyMode;
+
+bool is_letter_or_digit(char32_t const c) {
+  return (c >= U'0' && c <= U'9') || (c >= U'A' && c <= U'Z') || (c >= U'a' && c <= U'z');
+}
+
+/// Whether the library ever tries the character as a delimiter, found out by letting it look at
+/// lines that nothing else could split.
+bool can_be_delimiter(char16_t const c) {
+  textio::parser::options const options;
+  ostrel::io::text::typedetection::TypeAnalyzerOptions const types;
+  std::u16string const line{u'a', c, u'b', u'\n'};
+  std::u16string const text = line + line + line;
+  textio::detection::DetectionReport report;
+  textio::detection::StrategySelector selector(options, types);
+  static_cast<void>(selector.pick_strategy(textio::Field(text), textio::unknown_count, report));
+  return !report.sampled.empty();
+}
+
+bool was_tried(textio::detection::DetectionReport const& report, char32_t const c) {
+  return std::ranges::any_of(report.sampled, [&](auto const& sampled) {
+    auto const& delimiters = sampled.strategy->options().delimiters;
+    return std::ranges::any_of(delimiters, [&](std::u16string const& delimiter) {
+      return delimiter.size() == 1 && delimiter.front() == c;
+    });
+  });
+}
+
+NotTried reason_for(char32_t const c, Settings const& settings) {
+  if (c > 0x7F) {
+    return NotTried::NotAscii;
+  }
+  auto const unit = static_cast<char16_t>(c);
+  if (unit == settings.parsing.decimal_separator) {
+    return NotTried::DecimalMark;
+  }
+  if (settings.parsing.thousands_separator.starts_with(unit)) {
+    return NotTried::ThousandsMark;
+  }
+  return can_be_delimiter(unit) ? NotTried::OutsideMiddle : NotTried::NeverDelimiter;
+}
+
+std::vector<UntriedCharacter> untried_characters(Answer const& answer, Settings const& settings) {
+  std::set<char32_t> characters;
+  for (std::size_t pos = 0; pos < answer.sample.size();) {
+    characters.insert(next_character(answer.sample, pos));
+  }
+  std::vector<UntriedCharacter> untried;
+  for (char32_t const c : characters) {
+    bool const ends_lines = c == U'\n' || c == U'\r';
+    if (!is_letter_or_digit(c) && !ends_lines && !was_tried(*answer.finding.report, c)) {
+      untried.push_back({c, reason_for(c, settings)});
+    }
+  }
+  return untried;
+}
+
+/// The number by which a rule compares, from the score that it looks at.
+double number_of(std::string_view const rule, textio::StrategyValuation const& score) {
+  int const others = score.typed_columns - score.numeric_columns - score.date_columns -
+                     score.datetime_columns - score.delimiter_columns;
+  if (rule == "numvariables") {
+    return static_cast<double>(score.num_variables);
+  }
+  if (rule == "dates") {
+    return score.date_columns + score.datetime_columns;
+  }
+  if (rule == "variation") {
+    return score.data_variation;
+  }
+  if (rule == "class_value") {
+    return 10.0 * score.date_columns + 25.0 * score.datetime_columns +
+           3.0 * score.numeric_columns - score.delimiter_columns + others;
+  }
+  if (rule == "header_lines") {
+    return static_cast<double>(score.header_lines);
+  }
+  if (rule == "non_empty") {
+    return static_cast<double>(score.typed_columns) / static_cast<double>(score.num_variables);
+  }
+  return score.prior_rank;
+}
+
+std::vector<RuleNumbers> rule_numbers(textio::detection::DetectionReport const& report) {
+  std::vector<RuleNumbers> rules;
+  std::vector<std::size_t> seen(report.candidates.size());
+  for (std::size_t i = 0; i < seen.size(); ++i) {
+    seen[i] = i;
+  }
+  for (auto const& step : report.steps) {
+    RuleNumbers& rule = rules.emplace_back();
+    rule.rule = step.rule;
+    rule.seen = seen;
+    for (std::size_t const candidate : seen) {
+      rule.numbers.push_back(number_of(step.rule, report.candidates[candidate]->valuation()));
+    }
+    rule.kept = step.survivors;
+    seen = step.survivors;
+  }
+  return rules;
+}
+
+/// Who fell at the last rule, and how far the nearest of them is off.
+void add_runners_up(Explanation& explanation, std::size_t const winner) {
+  RuleNumbers const& last = explanation.rules.back();
+  double winning = 0;
+  for (std::size_t i = 0; i < last.seen.size(); ++i) {
+    if (last.seen[i] == winner) {
+      winning = last.numbers[i];
+    }
+  }
+  double nearest = std::numeric_limits<double>::infinity();
+  for (std::size_t i = 0; i < last.seen.size(); ++i) {
+    if (last.seen[i] != winner) {
+      explanation.runners_up.push_back(last.seen[i]);
+      nearest = std::min(nearest, std::abs(last.numbers[i] - winning));
+    }
+  }
+  if (std::isfinite(nearest)) {
+    explanation.margin = nearest;
+  }
+}
+
+/// The decision again, with the winner's delimiter (the blank, for columns that blanks separate)
+/// in the place of the thousands mark, which is never a delimiter.
+std::optional<Finding> find_without_winner(Answer const& answer, Settings const& settings) {
+  auto const& mark = settings.parsing.thousands_separator;
+  bool const place_is_taken = !mark.empty() && can_be_delimiter(mark.front());
+  bool const found_freely = !settings.layout && answer.finding.report &&
+                            answer.finding.report->outcome == Outcome::Candidate;
+  if (place_is_taken || !found_freely) {
+    return std::nullopt;
+  }
+  auto const& strategy = *answer.finding.strategy;
+  auto parsing = settings.parsing;
+  parsing.thousands_separator = strategy.mode() == StrategyMode::Delimited
+                                    ? strategy.options().delimiters.front()
+                                    : std::u16string(u" ");
+  Finding finding = detect_layout(parsing, settings, answer.sample);
+  finding.strategy->valuation();
+  return finding;
+}
+
+}  // namespace
+
+Explanation explain_answer(Answer const& answer, Settings const& settings) {
+  Explanation explanation;
+  if (!answer.finding.report) {
+    return explanation;
+  }
+  auto const& report = *answer.finding.report;
+  explanation.untried = untried_characters(answer, settings);
+  explanation.rules = rule_numbers(report);
+  if (report.winner && !explanation.rules.empty()) {
+    add_runners_up(explanation, *report.winner);
+  }
+  explanation.without_winner = find_without_winner(answer, settings);
+  return explanation;
+}
+
+}  // namespace cli

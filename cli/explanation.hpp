@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+//
+// What can be said about a decision beyond its record. Every judgement is the library's: where a
+// question is left open by the record, the library is asked again.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "cli/answer.hpp"
+#include "cli/settings.hpp"
+
+namespace cli {
+
+/// Why a character of the text was not tried as a delimiter.
+enum class NotTried : std::uint8_t {
+  DecimalMark,
+  ThousandsMark,
+  NeverDelimiter,  ///< quotes, brackets, signs
+  NotAscii,
+  OutsideMiddle,  ///< it stands only in the first and last lines, which are not looked at
+};
+
+/// A character of the sample that is neither letter nor digit.
+struct UntriedCharacter {
+  char32_t character = 0;
+  NotTried why = NotTried::NeverDelimiter;
+};
+
+/// A rule and the number by which it compares, one for each candidate that it saw.
+struct RuleNumbers {
+  std::string_view rule;
+  std::vector<std::size_t> seen;  ///< positions in the candidate list
+  std::vector<double> numbers;    ///< one for each candidate seen
+  std::vector<std::size_t> kept;
+};
+
+struct Explanation {
+  std::vector<UntriedCharacter> untried;  ///< in the order of their code points
+  std::vector<RuleNumbers> rules;
+  /// The candidates that fell at the last rule, when it left the winner alone.
+  std::vector<std::size_t> runners_up;
+  /// How far the nearest runner-up is off the winner, in the number of the last rule.
+  std::optional<double> margin;
+  /// The answer if the winner's delimiter could not be one; nothing when nothing won.
+  std::optional<Finding> without_winner;
+};
+
+[[nodiscard]] Explanation explain_answer(Answer const& answer, Settings const& settings);
+
+}  // namespace cli
