@@ -59,15 +59,9 @@ std::string number_text(double const number) {
   return std::isfinite(number) && number < largest_real ? fmt::format("{:.4g}", number) : "none";
 }
 
-std::string reading_with_position(DetectionReport const& report, std::size_t const candidate) {
-  return fmt::format("{} ({})", candidate + 1, reading_name(*report.candidates[candidate]));
-}
-
-/// A reading as an answer: "delimited by comma, 6 columns, 0 header lines".
-std::string reading_sentence(textio::GenericStrategy const& strategy) {
-  std::size_t const header =
-      strategy.header_lines() == textio::unknown_count ? 0 : strategy.header_lines();
-  std::size_t const columns = strategy.num_variables();
+/// A reading as an answer: "comma, 6 columns, 0 header lines".
+std::string reading_sentence(textio::GenericStrategy const& strategy, std::size_t const columns,
+                             std::size_t const header) {
   return fmt::format("{}, {} column{}, {} header line{}", reading_name(strategy), columns,
                      columns == 1 ? "" : "s", header, header == 1 ? "" : "s");
 }
@@ -76,8 +70,9 @@ std::string heading(std::string_view const text, Colors const& colors) {
   return fmt::format("\n{}{}{}\n", colors.heading, text, colors.reset);
 }
 
-std::string paragraph(std::string_view const text, std::size_t const width) {
-  return std::string(indent, ' ') + wrapped(text, indent, width);
+std::string paragraph(std::string_view const text, std::size_t const width,
+                      std::size_t const left = indent) {
+  return std::string(left, ' ') + wrapped(text, left, width);
 }
 
 std::string_view untried_text(NotTried const why) {
@@ -114,7 +109,8 @@ std::string untried_paragraph(Explanation const& explanation, NotTried const why
     return {};
   }
   std::string const more = count > most ? fmt::format(" and {} more", count - most) : "";
-  return paragraph(fmt::format("{}{}: {}", fmt::join(names, ", "), more, untried_text(why)), width);
+  return paragraph(fmt::format("{}{}: {}", fmt::join(names, ", "), more, untried_text(why)), width,
+                   indent + 2);
 }
 
 std::string characters_text(Answer const& answer, Explanation const& explanation,
@@ -128,14 +124,16 @@ std::string characters_text(Answer const& answer, Explanation const& explanation
   }
   std::string text = paragraph(
       tried.empty() ? "tried: none" : fmt::format("tried: {}", fmt::join(tried, ", ")), width);
-  text += paragraph("not tried: letters and digits, and of the others in the text", width);
   std::string others;
   for (NotTried const why : {NotTried::DecimalMark, NotTried::ThousandsMark,
                              NotTried::NeverDelimiter, NotTried::NotAscii,
                              NotTried::OutsideMiddle}) {
     others += untried_paragraph(explanation, why, width);
   }
-  return text + (others.empty() ? paragraph("none", width) : others);
+  text += paragraph(others.empty() ? "not tried: letters and digits"
+                                   : "not tried: letters and digits, and of the others",
+                    width);
+  return text + others;
 }
 
 /// One line of the table of candidates; `position` is empty for what is no candidate.
@@ -146,9 +144,11 @@ std::string candidate_line(std::string const& position, textio::GenericStrategy&
   std::size_t const header =
       score.header_lines == textio::unknown_count ? 0 : score.header_lines;
   auto const name = display_bytes(reading_name(strategy), name_cells);
-  return fmt::format("  {:>3}  {} {:>7} {:>9} {:>7} {:>6}  {}\n", position, pad(name, name_cells),
+  std::string line = fmt::format("  {:>3}  {} {:>7} {:>9} {:>7} {:>6}  {}", position, pad(name, name_cells),
                      score.num_variables, number_text(score.data_variation),
                      fmt::format("{}/{}", score.typed_columns, score.num_variables), header, fate);
+  line.erase(line.find_last_not_of(' ') + 1);
+  return line + "\n";
 }
 
 constexpr std::string_view candidate_heading =
@@ -170,7 +170,8 @@ std::string with_numbers(DetectionReport const& report, RuleNumbers const& rule,
   for (std::size_t i = 0; i < rule.seen.size(); ++i) {
     std::size_t const candidate = rule.seen[i];
     if (std::ranges::binary_search(rule.kept, candidate) == kept) {
-      parts.push_back(fmt::format("{} {}", reading_with_position(report, candidate),
+      parts.push_back(fmt::format("#{} {}: {}", candidate + 1,
+                                  reading_name(*report.candidates[candidate]),
                                   number_text(rule.numbers[i])));
     }
   }
@@ -223,12 +224,16 @@ std::string runners_up_text(DetectionReport const& report, Explanation const& ex
 }
 
 std::string answer_text(Answer const& answer) {
-  std::string const reading = reading_sentence(*answer.finding.strategy);
+  std::string const reading = reading_sentence(
+      *answer.finding.strategy, answer.column_types.size(), answer.header_lines);
   return answer.finding.decided ? reading : "not decided; read as " + reading;
 }
 
 std::string without_winner_text(Finding const& finding) {
-  std::string const reading = reading_sentence(*finding.strategy);
+  auto const& strategy = *finding.strategy;
+  std::size_t const header =
+      strategy.header_lines() == textio::unknown_count ? 0 : strategy.header_lines();
+  std::string const reading = reading_sentence(strategy, strategy.num_variables(), header);
   return finding.decided ? reading
                          : fmt::format("not decided ({})", verdict_word(finding.verdict));
 }

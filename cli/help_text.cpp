@@ -15,19 +15,6 @@ namespace {
 constexpr std::size_t width = 80;
 constexpr std::size_t indent = 24;
 
-constexpr std::string_view introduction =
-    "Say how a text file is laid out as a table: split by delimiters, lined up by runs of blanks, "
-    "cut into columns of fixed width, or plain lines.";
-
-constexpr std::string_view files =
-    "FILE may be \"-\" for standard input, which is read too when no file is named, and the member "
-    "of a zip archive, as archive.zip:member. Compressed files (gzip, bzip2, xz, zstd, lz4, zip) "
-    "are known by their content.";
-
-constexpr std::string_view exit_codes =
-    "Exit codes: 0 decided; 1 not decided, an answer by fallback; 2 wrong usage, or a file that "
-    "could not be read. For several files the highest.";
-
 /// A name and what it means, the meaning in a column of its own.
 std::string entry(std::string const& name, std::string_view const meaning) {
   std::string const head = "  " + name;
@@ -49,7 +36,7 @@ std::string option_name(OptionSpec const& row) {
 
 std::string help_text() {
   std::string text = "Usage: text-format [COMMAND] [OPTION...] [FILE...]\n\n";
-  text += wrapped(introduction, 0, width) + "\nCommands\n";
+  text += wrapped(program_purpose, 0, width) + "\nCommands\n";
   for (CommandSpec const& command : commands()) {
     text += entry(std::string(command.name), command.help);
   }
@@ -61,7 +48,7 @@ std::string help_text() {
     previous = &row;
     text += entry(option_name(row), row.help);
   }
-  return text + "\n" + wrapped(files, 0, width) + "\n" + wrapped(exit_codes, 0, width);
+  return text + "\n" + wrapped(about_files, 0, width) + "\n" + wrapped(about_exit_codes, 0, width);
 }
 
 std::string short_help() {

@@ -153,15 +153,30 @@ std::string flag(Option const option) {
   return "--" + std::string(spec(option).name);
 }
 
-std::vector<std::string_view> choices(OptionSpec const& spec) {
+namespace {
+
+/// The words between the bars.
+std::vector<std::string_view> words_of(std::string_view rest) {
   std::vector<std::string_view> words;
-  std::string_view rest = spec.choices;
   while (!rest.empty()) {
     auto const end = std::min(rest.find('|'), rest.size());
     words.push_back(rest.substr(0, end));
     rest.remove_prefix(std::min(end + 1, rest.size()));
   }
   return words;
+}
+
+}  // namespace
+
+std::vector<std::string_view> choices(OptionSpec const& spec) { return words_of(spec.choices); }
+
+std::vector<std::string_view> generate_kinds() {
+  return words_of(
+      std::ranges::find(command_table, Command::Generate, &CommandSpec::command)->operands);
+}
+
+std::string_view first_sentence(std::string_view const help) {
+  return help.substr(0, std::min(help.find(". "), help.size() - 1));
 }
 
 }  // namespace cli

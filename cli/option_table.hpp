@@ -103,7 +103,22 @@ struct OptionSpec {
   return spec.value.empty() ? spec.choices : spec.value;
 }
 
-/// The shell words that the command `generate` accepts.
-inline constexpr std::string_view generate_kinds = "man|bash|zsh|fish|json";
+/// The first sentence of a help text, without its full stop.
+[[nodiscard]] std::string_view first_sentence(std::string_view help);
+
+/// The words that the command `generate` accepts.
+[[nodiscard]] std::vector<std::string_view> generate_kinds();
+
+// What stands around the table in the help text and on the man page.
+inline constexpr std::string_view program_purpose =
+    "Say how a text file is laid out as a table: split by delimiters, lined up by runs of blanks, "
+    "cut into columns of fixed width, or plain lines.";
+inline constexpr std::string_view about_files =
+    "FILE may be \"-\" for standard input, which is read too when no file is named, and the member "
+    "of a zip archive, as archive.zip:member. Compressed files (gzip, bzip2, xz, zstd, lz4, zip) "
+    "are known by their content.";
+inline constexpr std::string_view about_exit_codes =
+    "Exit codes: 0 decided; 1 not decided, an answer by fallback; 2 wrong usage, or a file that "
+    "could not be read. For several files the highest.";
 
 }  // namespace cli
