@@ -50,8 +50,8 @@ struct Violation {
 struct Answer {
   std::string path;  ///< as it was typed, "-" for standard input
   textimport::text_source text;
-  std::u16string_view sample;                         ///< what was looked at, kept alive by `text`
-  Finding finding;  ///< scored
+  std::u16string_view sample;  ///< what was looked at, kept alive by `text`
+  Finding finding;             ///< scored
   /// The number that is given, else the strategy's.
   std::size_t header_lines = 0;
   /// One type for each column; empty for a text without records.

@@ -24,7 +24,9 @@ std::string both_names(OptionSpec const& row, std::string_view const between) {
                          : fmt::format("-{}{}{}", row.letter, between, flag(row.option));
 }
 
-bool takes_file(OptionSpec const& row) { return row.value == "FILE"; }
+bool takes_file(OptionSpec const& row) {
+  return row.value == "FILE";
+}
 
 /// Each of `special` behind a backslash. A quote that is not among them is left and entered again
 /// around a quoted one, for a shell that knows no escapes between single quotes.
@@ -45,8 +47,7 @@ std::string escaped(std::string_view const text, std::string_view const special)
 /// One branch of the case statement on the word in front.
 std::string bash_branch(OptionSpec const& row) {
   std::string const words =
-      takes_file(row) ? std::string("-f")
-                      : fmt::format("-W '{}'", fmt::join(choices(row), " "));
+      takes_file(row) ? std::string("-f") : fmt::format("-W '{}'", fmt::join(choices(row), " "));
   return fmt::format("    {}) mapfile -t COMPREPLY < <(compgen {} -- \"$word\"); return ;;\n",
                      both_names(row, "|"), words);
 }
@@ -103,8 +104,8 @@ std::string zsh_completion() {
     std::string const star = row.repeatable ? "*" : "";
     specs += fmt::format("  '{}{}{}[{}]{}' \\\n", star, flag(row.option), value, help, action);
     if (row.letter != 0) {
-      specs += fmt::format("  '{}-{}{}[{}]{}' \\\n", star, row.letter,
-                           takes_value(row) ? "+" : "", help, action);
+      specs += fmt::format("  '{}-{}{}[{}]{}' \\\n", star, row.letter, takes_value(row) ? "+" : "",
+                           help, action);
     }
   }
   return fmt::format(R"(#compdef text-format
@@ -132,9 +133,9 @@ std::string fish_completion() {
     text += fmt::format("complete -c text-format -n __fish_use_subcommand -a {} -d '{}'\n",
                         command.name, escaped(first_sentence(command.help), R"(\')"));
   }
-  text += fmt::format(
-      "complete -c text-format -n '__fish_seen_subcommand_from generate' -f -a '{}'\n",
-      fmt::join(generate_kinds(), " "));
+  text +=
+      fmt::format("complete -c text-format -n '__fish_seen_subcommand_from generate' -f -a '{}'\n",
+                  fmt::join(generate_kinds(), " "));
   for (OptionSpec const& row : options()) {
     std::string line = "complete -c text-format";
     line += row.letter == 0 ? "" : fmt::format(" -s {}", row.letter);

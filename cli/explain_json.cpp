@@ -88,10 +88,8 @@ ordered_json sampled_array(DetectionReport const& report) {
 ordered_json rules_array(Explanation const& explanation) {
   ordered_json array = ordered_json::array();
   for (RuleNumbers const& rule : explanation.rules) {
-    array.push_back({{"rule", rule.rule},
-                     {"seen", rule.seen},
-                     {"numbers", rule.numbers},
-                     {"kept", rule.kept}});
+    array.push_back(
+        {{"rule", rule.rule}, {"seen", rule.seen}, {"numbers", rule.numbers}, {"kept", rule.kept}});
   }
   return array;
 }

@@ -2,13 +2,13 @@
 
 #include "cli/explain_report.hpp"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <utility>
 #include <vector>
+
+#include <fmt/format.h>
 
 #include "cli/display_text.hpp"
 #include "cli/lines.hpp"
@@ -115,19 +115,12 @@ std::string untried_paragraph(Explanation const& explanation, NotTried const why
 
 std::string characters_text(Answer const& answer, Explanation const& explanation,
                             std::size_t const width) {
-  std::vector<std::string> tried;
-  for (SampledStrategy const& sampled : answer.finding.report->sampled) {
-    std::string const name = reading_name(*sampled.strategy);
-    if (std::ranges::find(tried, name) == tried.end()) {
-      tried.push_back(name);
-    }
-  }
-  std::string text = paragraph(
-      tried.empty() ? "tried: none" : fmt::format("tried: {}", fmt::join(tried, ", ")), width);
+  bool const none = answer.finding.report->sampled.empty();
+  std::string text = paragraph(none ? "tried: none" : "tried: see the readings below", width);
   std::string others;
-  for (NotTried const why : {NotTried::DecimalMark, NotTried::ThousandsMark,
-                             NotTried::NeverDelimiter, NotTried::NotAscii,
-                             NotTried::OutsideMiddle}) {
+  for (NotTried const why :
+       {NotTried::DecimalMark, NotTried::ThousandsMark, NotTried::NeverDelimiter,
+        NotTried::NotAscii, NotTried::OutsideMiddle}) {
     others += untried_paragraph(explanation, why, width);
   }
   text += paragraph(others.empty() ? "not tried: letters and digits"
@@ -141,12 +134,12 @@ std::string candidate_line(std::string const& position, textio::GenericStrategy&
                            std::string_view const fate) {
   constexpr std::size_t name_cells = 17;
   auto const& score = strategy.valuation();
-  std::size_t const header =
-      score.header_lines == textio::unknown_count ? 0 : score.header_lines;
+  std::size_t const header = score.header_lines == textio::unknown_count ? 0 : score.header_lines;
   auto const name = display_bytes(reading_name(strategy), name_cells);
-  std::string line = fmt::format("  {:>3}  {} {:>7} {:>9} {:>7} {:>6}  {}", position, pad(name, name_cells),
-                     score.num_variables, number_text(score.data_variation),
-                     fmt::format("{}/{}", score.typed_columns, score.num_variables), header, fate);
+  std::string line =
+      fmt::format("  {:>3}  {} {:>7} {:>9} {:>7} {:>6}  {}", position, pad(name, name_cells),
+                  score.num_variables, number_text(score.data_variation),
+                  fmt::format("{}/{}", score.typed_columns, score.num_variables), header, fate);
   line.erase(line.find_last_not_of(' ') + 1);
   return line + "\n";
 }
@@ -164,18 +157,54 @@ std::string candidates_text(DetectionReport const& report) {
   return text;
 }
 
-/// Who was kept or fell at a rule, each with its number.
+/// Positions in the list as a reader counts them, runs taken together: "#1, #3-7".
+std::string position_ranges(std::vector<std::size_t> const& positions) {
+  std::vector<std::string> ranges;
+  for (std::size_t start = 0; start < positions.size();) {
+    std::size_t end = start + 1;
+    while (end < positions.size() && positions[end] == positions[end - 1] + 1) {
+      ++end;
+    }
+    std::size_t const first = positions[start] + 1;
+    std::size_t const last = positions[end - 1] + 1;
+    ranges.push_back(first == last ? fmt::format("#{}", first)
+                                   : fmt::format("#{}-{}", first, last));
+    start = end;
+  }
+  return fmt::format("{}", fmt::join(ranges, ", "));
+}
+
+/// Those who were kept or fell at a rule, by their numbers: "0: #2, #4; 1: #3".
+std::string grouped_by_number(std::vector<std::pair<double, std::size_t>> candidates) {
+  std::ranges::stable_sort(candidates, {}, &std::pair<double, std::size_t>::first);
+  std::vector<std::string> groups;
+  for (std::size_t start = 0; start < candidates.size();) {
+    std::string const number = number_text(candidates[start].first);
+    std::vector<std::size_t> positions;
+    while (start < candidates.size() && number_text(candidates[start].first) == number) {
+      positions.push_back(candidates[start++].second);
+    }
+    groups.push_back(fmt::format("{}: {}", number, position_ranges(positions)));
+  }
+  return fmt::format("{}", fmt::join(groups, "; "));
+}
+
+/// Who was kept or fell at a rule, each with its number; by name as long as they are few.
 std::string with_numbers(DetectionReport const& report, RuleNumbers const& rule, bool const kept) {
-  std::vector<std::string> parts;
+  constexpr std::size_t few = 6;
+  std::vector<std::pair<double, std::size_t>> candidates;
+  std::vector<std::string> names;
   for (std::size_t i = 0; i < rule.seen.size(); ++i) {
     std::size_t const candidate = rule.seen[i];
     if (std::ranges::binary_search(rule.kept, candidate) == kept) {
-      parts.push_back(fmt::format("#{} {}: {}", candidate + 1,
+      candidates.emplace_back(rule.numbers[i], candidate);
+      names.push_back(fmt::format("#{} {}: {}", candidate + 1,
                                   reading_name(*report.candidates[candidate]),
                                   number_text(rule.numbers[i])));
     }
   }
-  return parts.empty() ? "none" : fmt::format("{}", fmt::join(parts, ", "));
+  return names.size() <= few ? fmt::format("{}", fmt::join(names, ", "))
+                             : grouped_by_number(std::move(candidates));
 }
 
 std::string_view rule_text(std::string_view const rule) {
@@ -183,12 +212,14 @@ std::string_view rule_text(std::string_view const rule) {
       {"numvariables", "the number of columns that is expected"},
       {"dates", "any columns of dates and times"},
       {"variation", "least irregular, small differences aside"},
-      {"class_value", "most telling column types: a date with time counts 25, a date or duration "
-                      "10, a number 3, another type 1, a lone delimiter -1"},
+      {"class_value",
+       "most telling column types: a date with time counts 25, a date or duration "
+       "10, a number 3, another type 1, a lone delimiter -1"},
       {"header_lines", "fewest header lines, if the records are all alike"},
       {"non_empty", "largest share of columns with values"},
-      {"priors_rank", "most usual delimiter: comma 0, tab 1, semicolon 2, space 3, runs of blanks "
-                      "3.5"},
+      {"priors_rank",
+       "most usual delimiter: comma 0, tab 1, semicolon 2, space 3, runs of blanks "
+       "3.5"},
   }};
   auto const* const known = std::ranges::find(texts, rule, &decltype(texts)::value_type::first);
   return known == texts.end() ? rule : known->second;
@@ -214,18 +245,23 @@ std::string rules_text(DetectionReport const& report, Explanation const& explana
 
 std::string runners_up_text(DetectionReport const& report, Explanation const& explanation) {
   std::vector<std::string> names;
+  constexpr std::size_t most = 4;
   for (std::size_t const candidate : explanation.runners_up) {
-    names.push_back(reading_name(*report.candidates[candidate]));
+    if (names.size() < most) {
+      names.push_back(reading_name(*report.candidates[candidate]));
+    }
   }
+  std::size_t const rest = explanation.runners_up.size() - names.size();
+  std::string const more = rest > 0 ? fmt::format(" and {} more", rest) : "";
   std::string const margin =
       explanation.margin ? fmt::format(", by {}", number_text(*explanation.margin)) : "";
-  return fmt::format("{} (fell at {}{})", fmt::join(names, ", "), explanation.rules.back().rule,
-                     margin);
+  return fmt::format("{}{} (fell at {}{})", fmt::join(names, ", "), more,
+                     explanation.rules.back().rule, margin);
 }
 
 std::string answer_text(Answer const& answer) {
-  std::string const reading = reading_sentence(
-      *answer.finding.strategy, answer.column_types.size(), answer.header_lines);
+  std::string const reading =
+      reading_sentence(*answer.finding.strategy, answer.column_types.size(), answer.header_lines);
   return answer.finding.decided ? reading : "not decided; read as " + reading;
 }
 
@@ -234,8 +270,7 @@ std::string without_winner_text(Finding const& finding) {
   std::size_t const header =
       strategy.header_lines() == textio::unknown_count ? 0 : strategy.header_lines();
   std::string const reading = reading_sentence(strategy, strategy.num_variables(), header);
-  return finding.decided ? reading
-                         : fmt::format("not decided ({})", verdict_word(finding.verdict));
+  return finding.decided ? reading : fmt::format("not decided ({})", verdict_word(finding.verdict));
 }
 
 std::string summary(Answer const& answer, Settings const& settings,
@@ -260,8 +295,8 @@ std::string summary(Answer const& answer, Settings const& settings,
 
 std::string explain_report(Answer const& answer, Settings const& settings, Colors const& colors) {
   Explanation const explanation = explain_answer(answer, settings);
-  std::string text = fmt::format("{}{}{}\n", colors.heading, display_bytes(answer.path).utf8,
-                                 colors.reset);
+  std::string text =
+      fmt::format("{}{}{}\n", colors.heading, display_bytes(answer.path).utf8, colors.reset);
   text += summary(answer, settings, explanation);
   if (!answer.finding.report) {
     text += heading("The reading that was given", colors);

@@ -3,9 +3,9 @@
 // The story of a decision, for people and as JSON.
 #pragma once
 
-#include <nlohmann/json_fwd.hpp>
-
 #include <string>
+
+#include <nlohmann/json_fwd.hpp>
 
 #include "cli/answer.hpp"
 #include "cli/console.hpp"

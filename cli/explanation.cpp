@@ -86,8 +86,8 @@ double number_of(std::string_view const rule, textio::StrategyValuation const& s
     return score.data_variation;
   }
   if (rule == "class_value") {
-    return 10.0 * score.date_columns + 25.0 * score.datetime_columns +
-           3.0 * score.numeric_columns - score.delimiter_columns + others;
+    return 10.0 * score.date_columns + 25.0 * score.datetime_columns + 3.0 * score.numeric_columns -
+           score.delimiter_columns + others;
   }
   if (rule == "header_lines") {
     return static_cast<double>(score.header_lines);
@@ -117,21 +117,22 @@ std::vector<RuleNumbers> rule_numbers(textio::detection::DetectionReport const& 
   return rules;
 }
 
-/// Who fell at the last rule, and how far the nearest of them is off.
+/// Of those who fell at the last rule the ones nearest to the winner, and how far off they are.
 void add_runners_up(Explanation& explanation, std::size_t const winner) {
   RuleNumbers const& last = explanation.rules.back();
-  double winning = 0;
-  for (std::size_t i = 0; i < last.seen.size(); ++i) {
-    if (last.seen[i] == winner) {
-      winning = last.numbers[i];
-    }
-  }
+  auto const place = std::ranges::find(last.seen, winner) - last.seen.begin();
+  double const winning = last.numbers[static_cast<std::size_t>(place)];
   double nearest = std::numeric_limits<double>::infinity();
   for (std::size_t i = 0; i < last.seen.size(); ++i) {
-    if (last.seen[i] != winner) {
-      explanation.runners_up.push_back(last.seen[i]);
-      nearest = std::min(nearest, std::abs(last.numbers[i] - winning));
+    double const distance = std::abs(last.numbers[i] - winning);
+    if (last.seen[i] == winner || distance > nearest) {
+      continue;
     }
+    if (distance < nearest) {
+      explanation.runners_up.clear();
+      nearest = distance;
+    }
+    explanation.runners_up.push_back(last.seen[i]);
   }
   if (std::isfinite(nearest)) {
     explanation.margin = nearest;

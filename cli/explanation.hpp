@@ -41,9 +41,9 @@ struct RuleNumbers {
 struct Explanation {
   std::vector<UntriedCharacter> untried;  ///< in the order of their code points
   std::vector<RuleNumbers> rules;
-  /// The candidates that fell at the last rule, when it left the winner alone.
+  /// Of the candidates that fell at the last rule, when it left the winner alone, the nearest.
   std::vector<std::size_t> runners_up;
-  /// How far the nearest runner-up is off the winner, in the number of the last rule.
+  /// How far they are off the winner, in the number of the last rule.
   std::optional<double> margin;
   /// The answer if the winner's delimiter could not be one; nothing when nothing won.
   std::optional<Finding> without_winner;

@@ -57,8 +57,9 @@ One JSON object for each file below the folder.
 }  // namespace
 
 std::string man_page() {
-  std::string text = fmt::format(".TH TEXT\\-FORMAT 1 \"\" \"text\\-format {}\" \"User Commands\"\n",
-                                 textio::library_version());
+  std::string text =
+      fmt::format(".TH TEXT\\-FORMAT 1 \"\" \"text\\-format {}\" \"User Commands\"\n",
+                  textio::library_version());
   text += ".SH NAME\ntext\\-format \\- say how a text file is laid out as a table\n.SH SYNOPSIS\n";
   for (CommandSpec const& command : commands()) {
     text += fmt::format(".B text\\-format {}\n{}\n.br\n", command.name, roff(command.operands));

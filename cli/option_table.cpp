@@ -168,7 +168,9 @@ std::vector<std::string_view> words_of(std::string_view rest) {
 
 }  // namespace
 
-std::vector<std::string_view> choices(OptionSpec const& spec) { return words_of(spec.choices); }
+std::vector<std::string_view> choices(OptionSpec const& spec) {
+  return words_of(spec.choices);
+}
 
 std::vector<std::string_view> generate_kinds() {
   return words_of(

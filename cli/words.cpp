@@ -74,7 +74,8 @@ std::string level_candidates(textio::detection::DetectionReport const& report) {
 }
 
 std::string why_single(Answer const& answer) {
-  if (answer.finding.strategy->mode() == StrategyMode::FixedWidth && answer.finding.report->sampled.size() <= 2) {
+  if (answer.finding.strategy->mode() == StrategyMode::FixedWidth &&
+      answer.finding.report->sampled.size() <= 2) {
     return "the columns are what the blanks common to all lines leave";
   }
   std::size_t const tried = answer.finding.report->sampled.size();

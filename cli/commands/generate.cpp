@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 
-#include <fmt/format.h>
-
-#include <nlohmann/json.hpp>
 #include <string>
+
+#include <fmt/format.h>
+#include <nlohmann/json.hpp>
 
 #include "cli/commands/commands.hpp"
 #include "cli/completions.hpp"
