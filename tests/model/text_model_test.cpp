@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+//
+// Fields and who owns their text, field arrays, and what an options record must not be.
+#include <type_traits>
+#include <utility>
+
+#include <gtest/gtest.h>
+
+#include "support/text.hpp"
+#include "text_format_detection/detection/strategy_selector.hpp"
+#include "text_format_detection/model/field.hpp"
+#include "text_format_detection/model/field_array.hpp"
+#include "text_format_detection/platform/record_readers.hpp"
+
+namespace {
+
+using support::show;
+using textio::Field;
+using textio::FieldArray;
+using textio::MutableField;
+using textio::detection::StrategySelector;
+using textio::parser::options;
+using TypeOptions = ostrel::io::text::typedetection::TypeAnalyzerOptions;
+
+// Readers and selectors refer to their options, which therefore must not be a temporary.
+template <class Reader>
+constexpr bool takes_only_lasting_options =
+    std::is_constructible_v<Reader, options const&> && !std::is_constructible_v<Reader, options> &&
+    !std::is_constructible_v<Reader, options const>;
+static_assert(takes_only_lasting_options<textio::parser::DelimitedRecordReader>);
+static_assert(takes_only_lasting_options<textio::parser::FixedWidthRecordReader>);
+static_assert(takes_only_lasting_options<textio::parser::LineRecordReader>);
+static_assert(std::is_constructible_v<StrategySelector, options const&, TypeOptions const&>);
+static_assert(!std::is_constructible_v<StrategySelector, options, TypeOptions const&>);
+static_assert(!std::is_constructible_v<StrategySelector, options const&, TypeOptions>);
+
+TEST(TextModel, FieldThatIsMovedFromIsEmpty) {
+  Field from(u"abc");
+  Field to(std::move(from));
+  EXPECT_EQ(show(to.view()), "abc");
+  EXPECT_EQ(from.data(), nullptr);  // NOLINT(bugprone-use-after-move): that is the question
+  EXPECT_TRUE(from.empty());
+  from = std::move(to);
+  EXPECT_EQ(show(from.view()), "abc");
+  EXPECT_EQ(to.data(), nullptr);  // NOLINT(bugprone-use-after-move)
+}
+
+TEST(TextModel, MutableFieldNarrowsAndOwns) {
+  for (std::size_t const length : {0U, 5U, 32U, 33U, 1000U}) {
+    std::u16string text(length + 2, u'a');
+    MutableField field{Field(text)};
+    field.remove_prefix(1);
+    field.remove_suffix(1);
+    EXPECT_EQ(field.data(), text.data() + 1);
+    field.own();
+    field.own();
+    text.assign(text.size(), u'b');
+    EXPECT_TRUE(field.owns_text());
+    EXPECT_EQ(show(field.view()), std::string(length, 'a'));
+    field.remove_suffix(length + 1);
+    EXPECT_TRUE(field.empty());
+  }
+  MutableField field{Field(u"ab")};
+  field.remove_prefix(3);
+  EXPECT_TRUE(field.empty());
+}
+
+TEST(TextModel, FieldArray) {
+  struct ArrayRow {
+    std::vector<std::size_t> counts;
+    std::vector<std::size_t> ends;
+    std::vector<std::size_t> ends_without_trailing_empty_records;
+  };
+
+  for (auto const& [counts, ends, without] : {ArrayRow{{}, {}, {}},
+                                              {{0}, {0}, {}},
+                                              {{2, 0, 1}, {2, 2, 3}, {2, 2, 3}},
+                                              {{0, 3, 0, 0}, {0, 3, 3, 3}, {0, 3}},
+                                              {{0, 0}, {0, 0}, {}}}) {
+    FieldArray fields = support::make_records(counts);
+    EXPECT_EQ(fields.record_ends(), ends);
+    fields.drop_trailing_empty_records();
+    EXPECT_EQ(fields.record_ends(), without);
+    EXPECT_EQ(fields.fields().size(), without.empty() ? 0 : without.back());
+  }
+  FieldArray fields;
+  fields.append_empty_record();
+  fields.append_record(u"ab,,c", std::vector<std::size_t>{0, 2, 3, 3, 4, 5});
+  fields.append_record(std::vector<Field>{Field(u"d"), Field(u"e")});
+  EXPECT_EQ(show(fields), "() / ab||c / d|e");
+  EXPECT_EQ(fields.record_start(2), 3U);
+}
+
+}  // namespace
