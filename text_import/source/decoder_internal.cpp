@@ -118,6 +118,11 @@ struct decoder::converter {
     return ucnv_toUCountPending(handle, &status) == 0;
   }
 
+  /// 2 and 4 in UTF-16 and UTF-32, whose characters begin at their multiples only.
+  [[nodiscard]] std::uint64_t unit_bytes() const {
+    return static_cast<std::uint64_t>(ucnv_getMinCharSize(handle));
+  }
+
   UConverter* handle = nullptr;
 };
 
@@ -126,6 +131,7 @@ decoder::decoder(std::string const& encoding, std::uint64_t const offset, bool c
     : converter_(std::make_unique<converter>(encoding)),
       encoding_(encoding),
       path_(std::move(path)),
+      start_(offset),
       offset_(offset),
       strict_(strict),
       ascii_is_itself_(converter_->maps_ascii_to_itself()) {}
@@ -183,7 +189,8 @@ void decoder::replace_end_marks(std::u16string& text, std::size_t const start) {
 void decoder::note_bad_bytes(std::uint64_t const offset, std::size_t const length) {
   counts_.bad_bytes += length;
   if (counts_.first_bad_offsets.size() < decoding_counts::max_bad_offsets) {
-    counts_.first_bad_offsets.push_back(offset);
+    // Behind half a surrogate pair, ICU has already taken a byte of the unit that follows it.
+    counts_.first_bad_offsets.push_back(offset - (offset - start_) % converter_->unit_bytes());
   }
 }
 

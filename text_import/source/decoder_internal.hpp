@@ -46,6 +46,7 @@ class decoder {
   std::unique_ptr<converter> converter_;
   std::string encoding_;
   std::string path_;
+  std::uint64_t start_;
   std::uint64_t offset_;  // of the first byte that was not handed to the converter
   bool strict_;
   bool ascii_is_itself_;
