@@ -8,14 +8,6 @@
 
 namespace textio {
 
-Field::Field(char16_t const* const data, std::size_t const length) noexcept
-    : data_(data), length_(length) {}
-
-Field::Field(std::u16string_view const text) noexcept : Field(text.data(), text.size()) {}
-
-Field::Field(Field&& other) noexcept
-    : data_(std::exchange(other.data_, nullptr)), length_(std::exchange(other.length_, 0)) {}
-
 Field& Field::operator=(Field&& other) noexcept {
   char16_t const* const data = std::exchange(other.data_, nullptr);
   std::size_t const length = std::exchange(other.length_, 0);

@@ -7,6 +7,7 @@
 #include <array>
 #include <cstddef>
 #include <string_view>
+#include <utility>
 
 #include "text_format_detection/export.hpp"
 
@@ -17,13 +18,18 @@ namespace textio {
 class TFD_API Field {
  public:
   Field() noexcept = default;
-  Field(char16_t const* data, std::size_t length) noexcept;
+
+  Field(char16_t const* data, std::size_t length) noexcept : data_(data), length_(length) {}
 
   /// A field over the viewed text, and a view over the field's text: they convert both ways.
-  Field(std::u16string_view text) noexcept;  // NOLINT(google-explicit-constructor)
+  Field(std::u16string_view text) noexcept  // NOLINT(google-explicit-constructor)
+      : Field(text.data(), text.size()) {}
 
   Field(Field const& other) noexcept = default;
-  Field(Field&& other) noexcept;
+
+  Field(Field&& other) noexcept
+      : data_(std::exchange(other.data_, nullptr)), length_(std::exchange(other.length_, 0)) {}
+
   Field& operator=(Field const& other) noexcept = default;
   Field& operator=(Field&& other) noexcept;
   virtual ~Field();

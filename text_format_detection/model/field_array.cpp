@@ -34,10 +34,10 @@ void FieldArray::append_record(std::span<Field const> const fields) {
 }
 
 void FieldArray::append_record(char16_t const* const text,
-                               std::span<std::size_t const> const bounds) {
-  reserve_record(bounds.size() / 2);
-  for (std::size_t i = 0; i + 1 < bounds.size(); i += 2) {
-    fields_.emplace_back(text + bounds[i], bounds[i + 1] - bounds[i]);
+                               std::span<FieldBounds const> const bounds) {
+  reserve_record(bounds.size());
+  for (FieldBounds const& field : bounds) {
+    fields_.emplace_back(text + field.start, field.end - field.start);
   }
   record_ends_.push_back(fields_.size());
 }

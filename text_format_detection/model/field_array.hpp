@@ -12,6 +12,12 @@
 
 namespace textio {
 
+/// Where a field lies in a text: from one position up to, not including, another.
+struct FieldBounds {
+  std::size_t start;
+  std::size_t end;
+};
+
 /// The fields of a sample, record after record.
 ///
 /// `record_ends` has one entry for each stored record: the number of fields stored up to and
@@ -57,9 +63,9 @@ class TFD_API FieldArray {
   void append_record(std::span<Field const> fields);
   void append_empty_record();
 
-  /// Appends one record whose fields lie in `text`. `bounds` has two entries for each field, its
-  /// start and its end, as positions in `text`. Throws std::bad_alloc, and changes nothing then.
-  void append_record(char16_t const* text, std::span<std::size_t const> bounds);
+  /// Appends one record whose fields lie in `text`. Throws std::bad_alloc, and changes nothing
+  /// then.
+  void append_record(char16_t const* text, std::span<FieldBounds const> bounds);
 
   /// Removes the records without fields that stand behind the last record with fields.
   void drop_trailing_empty_records() noexcept;

@@ -12,12 +12,11 @@ void apply_trailing_rule(enums::TrailingDelimitersRule const rule, RecordScan& s
   if (rule == enums::TrailingDelimitersRule::Keep) {
     return;
   }
-  std::vector<std::size_t>& bounds = scan.bounds;
-  while (!bounds.empty() && bounds[bounds.size() - 2] == bounds.back()) {
+  while (!scan.fields.empty() && scan.fields.back().start == scan.fields.back().end) {
     if (rule == enums::TrailingDelimitersRule::Error) {
       throw parser::exception::trailing_delimiters_error(0, 0, {}, {});
     }
-    bounds.resize(bounds.size() - 2);
+    scan.fields.pop_back();
   }
 }
 

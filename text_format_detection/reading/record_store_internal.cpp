@@ -9,16 +9,16 @@
 namespace textio::reading {
 
 void RecordStore::store(std::u16string_view const text, RecordScan const& scan) {
-  std::size_t const num_fields = scan.num_fields();
-  bool const one_blank_field =
-      num_fields == 1 &&
-      model::consists_of(text.substr(scan.bounds[0], scan.bounds[1] - scan.bounds[0]), whitespace_);
-  if (num_fields == 0 || one_blank_field) {
+  std::span<FieldBounds const> const fields(scan.fields);
+  if (fields.empty() || (fields.size() == 1 && is_blank(text, fields.front()))) {
     store_empty();
     return;
   }
-  std::span<std::size_t const> const bounds(scan.bounds);
-  fields_.append_record(text.data(), bounds.first(2 * std::min(num_fields, max_fields_)));
+  fields_.append_record(text.data(), fields.first(std::min(fields.size(), max_fields_)));
+}
+
+bool RecordStore::is_blank(std::u16string_view const text, FieldBounds const field) const {
+  return model::consists_of(text.substr(field.start, field.end - field.start), whitespace_);
 }
 
 }  // namespace textio::reading

@@ -17,8 +17,8 @@ struct RecordScan {
   /// What became of a fixed-width record that ends inside a column.
   enum class Status : unsigned char { Whole = 0, Missing = 1, FieldDropped = 2, RecordDropped = 3 };
 
-  /// Two entries for each field: its start and its end.
-  std::vector<std::size_t> bounds;
+  /// One entry for each field.
+  std::vector<FieldBounds> fields;
   /// The number of code units of the record, its line ending included.
   std::size_t occupied = 0;
   /// Whether the record's line ending is the last thing in the text.
@@ -26,21 +26,20 @@ struct RecordScan {
   Status status = Status::Whole;
 
   void clear() noexcept {
-    bounds.clear();
+    fields.clear();
     occupied = 0;
     ends_text = false;
     status = Status::Whole;
   }
 
-  void add_field(std::size_t const start, std::size_t const end) {
-    bounds.push_back(start);
-    bounds.push_back(end);
-  }
+  void add_field(std::size_t const start, std::size_t const end) { fields.push_back({start, end}); }
 
-  [[nodiscard]] std::size_t num_fields() const noexcept { return bounds.size() / 2; }
+  [[nodiscard]] std::size_t num_fields() const noexcept { return fields.size(); }
 
   /// The end of the last field; 0 without fields.
-  [[nodiscard]] std::size_t last_end() const noexcept { return bounds.empty() ? 0 : bounds.back(); }
+  [[nodiscard]] std::size_t last_end() const noexcept {
+    return fields.empty() ? 0 : fields.back().end;
+  }
 };
 
 /// Stores records in a field array.
@@ -60,6 +59,8 @@ class RecordStore {
   [[nodiscard]] std::size_t num_records() const noexcept { return fields_.num_records(); }
 
  private:
+  [[nodiscard]] bool is_blank(std::u16string_view text, FieldBounds field) const;
+
   FieldArray& fields_;
   model::UnitSet whitespace_;
   std::size_t max_fields_;
