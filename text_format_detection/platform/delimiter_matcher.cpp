@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// Building matchers, and the test of a list of strings: the set of first units turns most
-// positions away before any string is compared.
+// Building matchers, and the test of a list of strings: the range and then the set of
+// first units turn most positions away before any string is compared.
 #include "text_format_detection/platform/delimiter_matcher.hpp"
+
+#include <algorithm>
 
 #include "text_format_detection/model/options.hpp"
 
@@ -20,23 +22,25 @@ DelimiterMatcher::Mode make_mode(std::vector<std::u16string> const& strings) {
       continue;
     }
     list.strings.push_back(string);
-    if (list.first_units.find(string.front()) == std::u16string::npos) {
-      list.first_units.push_back(string.front());
+    char16_t const first_unit = string.front();
+    if (list.first_units.find(first_unit) == std::u16string::npos) {
+      list.first_units.push_back(first_unit);
     }
+    list.lowest_first_unit = std::min(list.lowest_first_unit, first_unit);
+    list.highest_first_unit = std::max(list.highest_first_unit, first_unit);
   }
   return list;
 }
 
 }  // namespace
 
-std::size_t DelimiterMatcher::StringList::length_at(std::u16string_view const text,
-                                                    std::size_t const pos) const noexcept {
-  if (pos >= text.size() || first_units.find(text[pos]) == std::u16string::npos) {
+std::size_t DelimiterMatcher::StringList::length_of_match(
+    std::u16string_view const text) const noexcept {
+  if (first_units.find(text.front()) == std::u16string::npos) {
     return 0;
   }
-  std::u16string_view const rest = text.substr(pos);
   for (std::u16string const& string : strings) {
-    if (rest.starts_with(string)) {
+    if (text.starts_with(string)) {
       return string.size();
     }
   }

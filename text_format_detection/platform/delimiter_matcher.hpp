@@ -36,9 +36,19 @@ class TFD_API DelimiterMatcher {
   struct StringList {
     std::vector<std::u16string> strings;  ///< in list order
     std::u16string first_units;           ///< the first code unit of each string, once
+    char16_t lowest_first_unit = 0xFFFF;  ///< no string begins with a code unit below this one
+    char16_t highest_first_unit = 0;      ///< nor with one above this
 
     /// The length of the first string of the list that stands at `pos` in full, else 0.
-    [[nodiscard]] std::size_t length_at(std::u16string_view text, std::size_t pos) const noexcept;
+    [[nodiscard]] std::size_t length_at(std::u16string_view const text,
+                                        std::size_t const pos) const noexcept {
+      bool const may_match =
+          pos < text.size() && text[pos] <= highest_first_unit && text[pos] >= lowest_first_unit;
+      return may_match ? length_of_match(text.substr(pos)) : 0;
+    }
+
+    /// The length of the first string of the list that the text (not empty) begins with, else 0.
+    [[nodiscard]] std::size_t length_of_match(std::u16string_view text) const noexcept;
   };
 
   using Mode = std::variant<SingleUnit, StringList>;

@@ -12,6 +12,7 @@
 
 #include "text_format_detection/model/errors.hpp"
 #include "text_format_detection/model/text_view_internal.hpp"
+#include "text_format_detection/model/unit_search_internal.hpp"
 #include "text_format_detection/platform/record_readers.hpp"
 #include "text_format_detection/reading/record_store_internal.hpp"
 
@@ -41,18 +42,23 @@ class DelimitedScanner {
         delimiters_(delimiters),
         line_endings_(line_endings),
         quote_(reader.quote_character()),
-        stops_(model::UnitSet(reader.stop_characters()).with_end_mark()) {}
+        quotes_(std::u16string_view(&quote_, 1)),
+        stops_(reader.stop_characters()) {}
 
   /// Scans the record at the start of `text`. Throws the errors of the three delimiter rules.
   void scan(std::u16string_view const text, RecordScan& scan) const {
     scan.clear();
     TrailingRun run;
     std::size_t pos = skip_leading(text);
-    while (!model::at_end(text, pos) && line_endings_.length_at(text, pos) == 0) {
+    std::size_t ending = line_endings_.length_at(text, pos);
+    while (ending == 0 && !model::at_end(text, pos)) {
       FieldEnd const field = find_field_end(text, pos);
-      std::size_t const next = field.delimiter_length == 0
-                                   ? field.end
-                                   : after_delimiter(text, field, scan.num_fields(), run);
+      std::size_t next = field.end;
+      ending = field.line_ending_length;
+      if (field.delimiter_length != 0) {
+        next = after_delimiter(text, field, scan.num_fields(), run);
+        ending = line_endings_.length_at(text, next);
+      }
       scan.add_field(pos, field.end);
       pos = next;
     }
@@ -63,7 +69,6 @@ class DelimitedScanner {
     if (run.pending && scan.num_fields() > run.first) {
       throw parser::exception::consecutive_delimiters_error(0, 0, {}, {});
     }
-    std::size_t const ending = line_endings_.length_at(text, pos);
     scan.occupied = pos + ending;
     scan.ends_text = ending != 0 && model::at_end(text, scan.occupied);
   }
@@ -79,7 +84,8 @@ class DelimitedScanner {
  private:
   struct FieldEnd {
     std::size_t end;
-    std::size_t delimiter_length;  // 0: the record ends here
+    std::size_t delimiter_length;  // both 0: the text ends here
+    std::size_t line_ending_length;
   };
 
   /// A run of delimiters that is an error unless the record ends with it; see
@@ -105,12 +111,15 @@ class DelimitedScanner {
       pos = skip_quoted(text, pos);
     }
     for (;; ++pos) {
-      pos = model::find_member(text, pos, stops_);
-      if (model::at_end(text, pos) || line_endings_.length_at(text, pos) != 0) {
-        return {pos, 0};
+      pos = stops_.find(text, pos);
+      if (model::at_end(text, pos)) {
+        return {pos, 0, 0};
+      }
+      if (std::size_t const length = line_endings_.length_at(text, pos)) {
+        return {pos, 0, length};
       }
       if (std::size_t const length = delimiters_.length_at(text, pos)) {
-        return {pos, length};
+        return {pos, length, 0};
       }
     }
   }
@@ -119,7 +128,7 @@ class DelimitedScanner {
   /// The end of the text when a quote never closes.
   [[nodiscard]] std::size_t skip_quoted(std::u16string_view const text, std::size_t pos) const {
     do {
-      pos = model::find_unit(text, pos + 1, quote_);
+      pos = quotes_.find(text, pos + 1);
       if (model::at_end(text, pos)) {
         return pos;
       }
@@ -145,7 +154,8 @@ class DelimitedScanner {
   Delimiters const& delimiters_;
   LineEndings const& line_endings_;
   char16_t quote_;
-  model::UnitSet stops_;
+  model::UnitSearch quotes_;
+  model::UnitSearch stops_;
 };
 
 /// Calls `use` with the scanner for the reader's matchers and its consecutive-delimiters rule.

@@ -12,6 +12,7 @@
 
 #include "text_format_detection/model/errors.hpp"
 #include "text_format_detection/model/text_view_internal.hpp"
+#include "text_format_detection/model/unit_search_internal.hpp"
 #include "text_format_detection/platform/record_readers.hpp"
 #include "text_format_detection/reading/record_store_internal.hpp"
 
@@ -24,7 +25,7 @@ class FixedWidthScanner {
   FixedWidthScanner(parser::FixedWidthRecordReader const& reader, LineEndings const& line_endings)
       : options_(reader.options()),
         line_endings_(line_endings),
-        stops_(model::UnitSet(reader.stop_characters()).with_end_mark()),
+        stops_(reader.stop_characters()),
         whitespace_(options_.whitespace) {}
 
   /// Scans the record at the start of `text`. Throws partial_field_error under the rule Error.
@@ -69,8 +70,8 @@ class FixedWidthScanner {
                                   std::size_t const width) const {
     std::size_t const limit = pos + std::min(width, text.size() - pos);
     std::u16string_view const column = text.substr(0, limit);
-    for (pos = model::find_member(column, pos, stops_); !model::at_end(column, pos);
-         pos = model::find_member(column, pos + 1, stops_)) {
+    for (pos = stops_.find(column, pos); !model::at_end(column, pos);
+         pos = stops_.find(column, pos + 1)) {
       std::size_t const ending = wraps() ? 0 : line_endings_.length_at(text, pos);
       if (ending != 0) {
         return {pos, ending};
@@ -114,9 +115,9 @@ class FixedWidthScanner {
 
   void scan_rest_of_line(std::u16string_view const text, std::size_t const pos,
                          RecordScan& scan) const {
-    std::size_t end = model::find_member(text, pos, stops_);
+    std::size_t end = stops_.find(text, pos);
     while (!finish_at(text, end, scan)) {
-      end = model::find_member(text, end + 1, stops_);
+      end = stops_.find(text, end + 1);
     }
     if (!model::consists_of(text.substr(pos, end - pos), whitespace_)) {
       scan.add_field(pos, end);
@@ -136,7 +137,7 @@ class FixedWidthScanner {
 
   parser::options const& options_;
   LineEndings const& line_endings_;
-  model::UnitSet stops_;
+  model::UnitSearch stops_;
   model::UnitSet whitespace_;
 };
 

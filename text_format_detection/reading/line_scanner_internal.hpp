@@ -8,6 +8,7 @@
 #include <variant>
 
 #include "text_format_detection/model/text_view_internal.hpp"
+#include "text_format_detection/model/unit_search_internal.hpp"
 #include "text_format_detection/platform/record_readers.hpp"
 #include "text_format_detection/reading/record_store_internal.hpp"
 
@@ -18,9 +19,7 @@ template <class LineEndings>
 class LineScanner {
  public:
   LineScanner(parser::LineRecordReader const& reader, LineEndings const& line_endings)
-      : reader_(reader),
-        line_endings_(line_endings),
-        stops_(model::UnitSet(reader.stop_characters()).with_end_mark()) {}
+      : reader_(reader), line_endings_(line_endings), stops_(reader.stop_characters()) {}
 
   /// Scans the record at the start of `text`: at most one field, the line without its ending.
   void scan(std::u16string_view const text, RecordScan& scan) const {
@@ -46,17 +45,17 @@ class LineScanner {
   }
 
   [[nodiscard]] std::size_t find_value_end(std::u16string_view const text) const {
-    std::size_t pos = model::find_member(text, 0, stops_);
+    std::size_t pos = stops_.find(text, 0);
     while (!model::at_end(text, pos) && !is_value_end(text, pos) &&
            line_endings_.length_at(text, pos) == 0) {
-      pos = model::find_member(text, pos + 1, stops_);
+      pos = stops_.find(text, pos + 1);
     }
     return pos;
   }
 
   parser::LineRecordReader const& reader_;
   LineEndings const& line_endings_;
-  model::UnitSet stops_;
+  model::UnitSearch stops_;
 };
 
 /// Calls `use` with the scanner for the reader's matcher.
