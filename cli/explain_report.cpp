@@ -27,7 +27,7 @@ using textio::enums::StrategyMode;
 
 constexpr std::size_t indent = 4;
 
-/// What became of a strategy, in at most 24 cells.
+/// What became of a strategy, in at most 22 cells.
 std::string_view fate_text(SampledStrategy const& sampled) {
   switch (sampled.fate) {
     case CandidateFate::Accepted:
@@ -35,7 +35,7 @@ std::string_view fate_text(SampledStrategy const& sampled) {
     case CandidateFate::LessTyped:
       return "fewer typed columns";
     case CandidateFate::ReplacedByFixedWidth:
-      return "fixed widths fit better";
+      return "fixed widths instead";
     case CandidateFate::Rejected:
       break;
   }

@@ -44,8 +44,8 @@ int answer_file(std::string const& path, Settings const& settings, Renderer cons
 int answer_files(Arguments const& arguments, Settings const& settings, Renderer const& render) {
   int code = exit_code::decided;
   bool first = true;
-  FileNames names(arguments);
   try {
+    FileNames names(arguments);
     while (auto const path = names.next()) {
       code = std::max(code, answer_file(*path, settings, render, first));
     }
