@@ -90,6 +90,16 @@ std::vector<decoding> decodings() {
       {"Shift_JIS", "a\x83\x5C\x95\x5C,", u"a\u30BD\u8868,", 0, {}},
       {"Shift_JIS", "a\x83", u"a\uFFFD", 1, {1}},
       {"GB18030", "\xC4\xE3\x81\x30\x81\x30,", u"\u4F60\u0080,", 0, {}},
+      {"Shift_JIS", "a\x83 ,", u"a\uFFFD ,", 1, {1}},
+      {"GB18030", "a\x81\x30\x81,", u"a\uFFFD0\uFFFD,", 2, {1, 3}},
+      {"GB18030",
+       "a\xFF,\xFE\x80"
+       "b",
+       u"a\uFFFD,\u4723b",
+       1,
+       {1}},
+      {"EUC-JP", "a\x8F\xB0,b", u"a\uFFFD\uFFFD,b", 2, {1, 2}},
+      {"Big5", "a\xA4\xFF,", u"a\uFFFD\uF8F8,", 1, {1}},
       {"EUC-JP", "\xC6\xFC\x8F\xB0\xA1", u"\u65E5\u4E02", 0, {}},
       {"ISO-2022-JP", "a\x1B$BF|\x1B(Bb", u"a\u65E5b", 0, {}},
       {"IBM037", "\xC1\x6B\xF1", u"A,1", 0, {}},
@@ -116,6 +126,49 @@ TEST(decoder, gives_the_same_in_blocks_of_any_size) {
       EXPECT_TRUE(text == row.text) << testing::PrintToString(text.substr(0, 20));
       EXPECT_EQ(decoder.counts().bad_bytes, row.bad_bytes);
       EXPECT_EQ(decoder.counts().first_bad_offsets, row.bad_offsets);
+    }
+  }
+}
+
+TEST(decoder, gives_the_same_for_random_bytes_in_blocks_of_any_size) {
+  std::uint32_t state = 1;
+  auto const random = [&state](std::uint32_t const below) {
+    state = state * 1664525 + 1013904223;
+    return (state >> 16U) % below;
+  };
+  auto const decoded = [](char const* const encoding, std::string_view bytes,
+                          std::size_t const block, decoding_counts& counts) {
+    decoder decoder(encoding, 0, false, "made");
+    std::u16string text;
+    for (; !bytes.empty(); bytes.remove_prefix(std::min(block, bytes.size()))) {
+      decoder.decode(bytes.substr(0, block), false, text);
+    }
+    decoder.decode({}, true, text);
+    counts = decoder.counts();
+    return text;
+  };
+  constexpr std::string_view often = "\x1B$(B,a0\n\x81\x8F\xA4\xB0\xC3\xD8\xDC\xE2\xF0\xFE\xFF";
+  for (char const* const encoding :
+       {"UTF-8", "UTF-16LE", "UTF-16BE", "UTF-32LE", "Shift_JIS", "EUC-JP", "GB18030", "Big5",
+        "Big5-HKSCS", "windows-949", "ISO-2022-JP", "ISO-2022-KR", "HZ-GB-2312", "UTF-7"}) {
+    for (int round = 0; round < 300; ++round) {
+      std::string bytes;
+      for (std::uint32_t i = random(14); i != 0; --i) {
+        bytes.push_back(random(3) == 0 ? static_cast<char>(random(256))
+                                       : often[random(often.size())]);
+      }
+      decoding_counts whole;
+      std::u16string const text = decoded(encoding, bytes, 100, whole);
+      for (std::size_t const block : {1U, 2U, 3U, 5U}) {
+        decoding_counts counts;
+        SCOPED_TRACE(encoding + (" " + testing::PrintToString(bytes)) + " in " +
+                     std::to_string(block));
+        EXPECT_TRUE(decoded(encoding, bytes, block, counts) == text);
+        EXPECT_EQ(counts.bad_bytes, whole.bad_bytes);
+        EXPECT_EQ(counts.first_bad_offsets, whole.first_bad_offsets);
+        EXPECT_TRUE(whole.first_bad_offsets.empty() ||
+                    whole.first_bad_offsets.back() < bytes.size());
+      }
     }
   }
 }

@@ -8,9 +8,12 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <functional>
 #include <new>
+#include <numeric>
 #include <stdexcept>
 #include <utility>
+#include <vector>
 
 #include <unicode/ucnv.h>
 #include <unicode/ucnv_cb.h>
@@ -25,12 +28,28 @@ namespace {
 constexpr char16_t replacement = 0xFFFD;
 constexpr std::size_t piece_bytes = 1024;
 
-// Where the piece that ICU is converting lies; the error handler finds it through its context.
-struct piece_position {
-  decoder* owner;
-  bool strict;
-  char const* start;
+struct bad_run {
   std::uint64_t offset;
+  std::size_t length;
+};
+
+// A piece on its way through ICU, whose error handler finds it through its context.
+struct piece {
+  std::string_view bytes;
+  std::uint64_t offset;
+  bool is_strict;
+  std::vector<bad_run> bad_runs = {};
+
+  /// The offset behind the bytes that ICU has taken. When it reads bytes again that came before
+  /// the piece, these lie in a buffer of its own, and nothing of the piece was taken yet.
+  [[nodiscard]] std::uint64_t reached(UConverterToUnicodeArgs const& arguments) const {
+    std::less_equal<> const in_order;
+    char const* const end = bytes.data() + bytes.size();
+    if (in_order(bytes.data(), arguments.source) && in_order(arguments.source, end)) {
+      return offset + static_cast<std::uint64_t>(arguments.source - bytes.data());
+    }
+    return offset - static_cast<std::uint64_t>(arguments.sourceLimit - arguments.source);
+  }
 };
 
 /// Replaces the bytes that ICU could not convert, or stops in front of them.
@@ -40,11 +59,10 @@ void on_bad_bytes(void const* const context, UConverterToUnicodeArgs* const argu
   if (reason > UCNV_IRREGULAR) {
     return;  // the converter is reset, closed or copied
   }
-  auto const& piece = *static_cast<piece_position const*>(context);
-  auto const passed = static_cast<std::uint64_t>(arguments->source - piece.start);
+  auto& current = *static_cast<piece*>(const_cast<void*>(context));
   auto const bad = static_cast<std::size_t>(length);
-  piece.owner->note_bad_bytes(piece.offset + passed - bad, bad);
-  if (piece.strict) {
+  current.bad_runs.push_back({current.reached(*arguments) - bad, bad});
+  if (current.is_strict) {
     return;  // the status keeps the error, and the conversion ends here
   }
   *status = U_ZERO_ERROR;
@@ -77,9 +95,9 @@ void append_ascii(std::string_view const bytes, std::u16string& text) {
 }  // namespace
 
 struct decoder::converter {
-  explicit converter(std::string const& encoding) {
+  explicit converter(std::string const& encoding) : handle(nullptr, ucnv_close) {
     UErrorCode status = U_ZERO_ERROR;
-    handle = ucnv_open(encoding.c_str(), &status);
+    handle.reset(ucnv_open(encoding.c_str(), &status));
     if (status == U_MEMORY_ALLOCATION_ERROR) {
       throw std::bad_alloc();
     }
@@ -88,42 +106,52 @@ struct decoder::converter {
     }
   }
 
-  converter(converter const&) = delete;
-  converter(converter&&) = delete;
-  converter& operator=(converter const&) = delete;
-  converter& operator=(converter&&) = delete;
-
-  ~converter() { ucnv_close(handle); }
+  /// Appends the text of the piece; false when it stopped at the last of its bad runs.
+  bool convert(piece& current, bool const last, std::u16string& text) const {
+    UErrorCode status = U_ZERO_ERROR;
+    ucnv_setToUCallBack(handle.get(), on_bad_bytes, &current, nullptr, nullptr, &status);
+    char const* source = current.bytes.data();
+    char const* const source_end = source + current.bytes.size();
+    std::array<char16_t, piece_bytes> units;
+    do {
+      status = U_ZERO_ERROR;
+      char16_t* target = units.data();
+      ucnv_toUnicode(handle.get(), &target, units.data() + units.size(), &source, source_end,
+                     nullptr, static_cast<UBool>(last), &status);
+      text.append(units.data(), target);
+    } while (status == U_BUFFER_OVERFLOW_ERROR);
+    return U_SUCCESS(status) != 0;
+  }
 
   /// True when each ASCII byte is its own character wherever a character may begin. Not so in
   /// encodings that shift by ASCII bytes, in UTF-16 and on mainframes.
   [[nodiscard]] bool maps_ascii_to_itself() const {
     std::array<char, 128> bytes{};
-    for (std::size_t i = 0; i < bytes.size(); ++i) {
-      bytes[i] = static_cast<char>(i);
-    }
+    std::iota(bytes.begin(), bytes.end(), '\0');
     std::array<char16_t, 2 * bytes.size()> units{};
     UErrorCode status = U_ZERO_ERROR;
     std::int32_t const length =
-        ucnv_toUChars(handle, units.data(), static_cast<std::int32_t>(units.size()), bytes.data(),
-                      static_cast<std::int32_t>(bytes.size()), &status);
-    ucnv_reset(handle);
+        ucnv_toUChars(handle.get(), units.data(), static_cast<std::int32_t>(units.size()),
+                      bytes.data(), static_cast<std::int32_t>(bytes.size()), &status);
+    ucnv_reset(handle.get());
     return U_SUCCESS(status) != 0 && length == static_cast<std::int32_t>(bytes.size()) &&
            std::equal(bytes.begin(), bytes.end(), units.begin(),
-                      [](char const b, char16_t const u) { return static_cast<char16_t>(b) == u; });
+                      [](char const byte, char16_t const unit) {
+                        return static_cast<char16_t>(byte) == unit;
+                      });
   }
 
   [[nodiscard]] bool between_characters() const {
     UErrorCode status = U_ZERO_ERROR;
-    return ucnv_toUCountPending(handle, &status) == 0;
+    return ucnv_toUCountPending(handle.get(), &status) == 0;
   }
 
-  /// 2 and 4 in UTF-16 and UTF-32, whose characters begin at their multiples only.
+  /// 2 and 4 in UTF-16 and UTF-32, whose characters begin at multiples of them only.
   [[nodiscard]] std::uint64_t unit_bytes() const {
-    return static_cast<std::uint64_t>(ucnv_getMinCharSize(handle));
+    return static_cast<std::uint64_t>(ucnv_getMinCharSize(handle.get()));
   }
 
-  UConverter* handle = nullptr;
+  std::unique_ptr<UConverter, void (*)(UConverter*)> handle;
 };
 
 decoder::decoder(std::string const& encoding, std::uint64_t const offset, bool const strict,
@@ -156,23 +184,15 @@ void decoder::decode(std::string_view bytes, bool const last, std::u16string& te
 }
 
 void decoder::convert(std::string_view const bytes, bool const last, std::u16string& text) {
-  piece_position const piece{this, strict_, bytes.data(), offset_};
-  UErrorCode status = U_ZERO_ERROR;
-  ucnv_setToUCallBack(converter_->handle, on_bad_bytes, &piece, nullptr, nullptr, &status);
-  char const* source = bytes.data();
-  char const* const source_end = source + bytes.size();
   std::size_t const start = text.size();
-  std::array<char16_t, piece_bytes> units;
-  do {
-    status = U_ZERO_ERROR;
-    char16_t* target = units.data();
-    ucnv_toUnicode(converter_->handle, &target, units.data() + units.size(), &source, source_end,
-                   nullptr, static_cast<UBool>(last), &status);
-    text.append(units.data(), target);
-  } while (status == U_BUFFER_OVERFLOW_ERROR);
+  piece current{bytes, offset_, strict_};
+  bool const is_converted = converter_->convert(current, last, text);
   offset_ += bytes.size();
   replace_end_marks(text, start);
-  if (U_FAILURE(status) != 0) {
+  for (bad_run const& run : current.bad_runs) {
+    note_bad_bytes(run.offset, run.length);
+  }
+  if (!is_converted) {
     throw_bad_bytes();
   }
 }

@@ -33,13 +33,11 @@ class decoder {
 
   [[nodiscard]] decoding_counts const& counts() const noexcept { return counts_; }
 
-  /// What the converter's error handler reports; not for other callers.
-  void note_bad_bytes(std::uint64_t offset, std::size_t length);
-
  private:
   struct converter;
 
   void convert(std::string_view bytes, bool last, std::u16string& text);
+  void note_bad_bytes(std::uint64_t offset, std::size_t length);
   void replace_end_marks(std::u16string& text, std::size_t start);
   [[noreturn]] void throw_bad_bytes() const;
 

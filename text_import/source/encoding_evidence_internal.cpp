@@ -132,14 +132,16 @@ utf8_evidence examine_utf8(std::string_view const bytes, bool const complete) {
 
 bool looks_like_utf32(std::string_view const bytes, bool const big_endian) {
   std::size_t nuls = 0;
+  std::size_t rare = 0;  // beyond the basic plane, where hardly any text is at home
   for (std::size_t i = 0; i + 4 <= bytes.size(); i += 4) {
     char32_t const unit = unit_at(bytes, i, 4, big_endian);
     if (unit > 0x10FFFF || is_surrogate(unit)) {
       return false;
     }
     nuls += unit == 0 ? 1 : 0;
+    rare += unit > 0xFFFF ? 1 : 0;
   }
-  return bytes.size() >= 4 && nuls <= bytes.size() / 16;
+  return bytes.size() >= 4 && nuls <= bytes.size() / 16 && rare <= bytes.size() / 8;
 }
 
 bool looks_like_utf16(std::string_view const bytes, bool const big_endian) {

@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: MIT
+//
+// The opened text: where the sample is cut, what is counted, the stream, and the memory bound.
+#include "text_import/source/text_source.hpp"
+
+#include <atomic>
+#include <cstdlib>
+#include <new>
+
+#include <gtest/gtest.h>
+#include <malloc.h>
+
+#include "tests/text_import/made_data.hpp"
+
+namespace {
+
+// All memory of this program that comes from operator new: in use now, and at most so far.
+std::atomic<std::size_t> bytes_in_use = 0;
+std::atomic<std::size_t> most_bytes_in_use = 0;
+
+}  // namespace
+
+void* operator new(std::size_t const size) {
+  void* const memory = std::malloc(size == 0 ? 1 : size);
+  if (memory == nullptr) {
+    throw std::bad_alloc();
+  }
+  std::size_t const used = bytes_in_use += ::malloc_usable_size(memory);
+  most_bytes_in_use = std::max<std::size_t>(most_bytes_in_use, used);
+  return memory;
+}
+
+void operator delete(void* const memory) noexcept {
+  bytes_in_use -= ::malloc_usable_size(memory);
+  std::free(memory);
+}
+
+void operator delete(void* const memory, std::size_t) noexcept {
+  operator delete(memory);
+}
+
+namespace textimport {
+namespace {
+
+using namespace std::string_literals;
+using made::outcome;
+using made::read_all;
+
+TEST(sample, is_cut_behind_the_last_whole_line_if_the_text_goes_on) {
+  struct row {
+    std::string text;
+    std::size_t sample_bytes;
+    std::u16string sample;
+    bool goes_on;
+    bool no_line_end;
+  };
+
+  for (row const& row : {
+           row{"", 10, u"", false, false},
+           row{"ab\ncd", 10, u"ab\ncd", false, false},
+           row{"ab\ncd", 5, u"ab\ncd", false, false},
+           row{"ab\ncd", 4, u"ab\n", true, false},
+           row{"ab\ncd", 3, u"ab\n", true, false},
+           row{"ab\ncd", 2, u"ab", true, true},
+           row{"ab\r\ncd", 4, u"ab\r\n", true, false},
+           row{"ab\r\ncd", 3, u"ab\r", true, true},
+           row{"a\rb\rcd", 4, u"a\r", true, false},
+           row{"a\rb\rcd", 5, u"a\rb\r", true, false},
+           row{"a\rb\nc\rd", 7, u"a\rb\nc\rd", false, false},
+           row{"a\nb\xC3\xA4\n", 4, u"a\n", true, false},
+           row{"b\xC3\xA4\n", 2, u"b", true, true},
+           row{"b\xF0\x9F\x98\x80\n", 4, u"b", true, true},
+           row{"b\xF0\x9F\x98\x80\n", 5, u"b\U0001F600", true, true},
+           row{"\xEF\xBB\xBF"
+               "a\nb",
+               5, u"a\n", true, false},
+           row{"\xFF\xFE"
+               "a\0\x3D\xD8\x00\xDE"
+               "b\0"s,
+               6, u"a", true, true},
+           row{"\xFF\xFE"
+               "a\0\n\0b\0"s,
+               7, u"a\n", true, false},
+       }) {
+    for (std::size_t const block : {1U, 2U, 3U, 64U}) {
+      SCOPED_TRACE(testing::PrintToString(row.text) + " " + std::to_string(row.sample_bytes));
+      open_options options;
+      options.sample_bytes = row.sample_bytes;
+      options.block_bytes = block;
+      outcome const read = read_all(row.text, options);
+      EXPECT_EQ(read.error, "");
+      EXPECT_TRUE(read.sample == row.sample) << testing::PrintToString(read.sample);
+      EXPECT_EQ(read.findings.goes_on, row.goes_on);
+      EXPECT_EQ(read.findings.no_line_end, row.no_line_end);
+      EXPECT_EQ(read.findings.bytes_read, std::min(row.sample_bytes, row.text.size()));
+      EXPECT_TRUE(read.whole == read_all(row.text).sample) << "the stream is the whole text";
+    }
+  }
+}
+
+TEST(sample, has_its_line_ends_and_odd_characters_counted) {
+  struct row {
+    std::string text;
+    std::uint64_t lf, crlf, cr, nuls, bad_bytes, end_marks;
+  };
+
+  for (row const& row : {
+           row{"", 0, 0, 0, 0, 0, 0},
+           row{"a\nb\nc", 2, 0, 0, 0, 0, 0},
+           row{"a\r\nb\rc\nd\n\r", 2, 1, 2, 0, 0, 0},
+           row{"\r\r\n\n", 1, 1, 1, 0, 0, 0},
+           row{"aa\0bb\0\n"s, 1, 0, 0, 2, 0, 0},
+           row{"\u00E4\u00F6\u00FC\u00DF\u00C4\n\xFF\xEF\xBF\xBF\n", 2, 0, 0, 0, 1, 1},
+       }) {
+    text_findings const found = read_all(row.text).findings;
+    EXPECT_EQ(found.line_endings.lf, row.lf) << row.text;
+    EXPECT_EQ(found.line_endings.crlf, row.crlf) << row.text;
+    EXPECT_EQ(found.line_endings.cr, row.cr) << row.text;
+    EXPECT_EQ(found.nuls, row.nuls) << row.text;
+    EXPECT_EQ(found.decoding.bad_bytes, row.bad_bytes) << row.text;
+    EXPECT_EQ(found.decoding.replaced_end_marks, row.end_marks) << row.text;
+  }
+}
+
+TEST(stream, goes_on_where_the_sample_ended_with_everything_counted) {
+  std::string const begin = "\u00E4\u00F6\u00FC\u00DF\u00C4\n" + made::table_of(5000);
+  std::string const text = begin + "\xFF" + made::table_of(5000) + "\xFE\xFE";
+  open_options options;
+  options.sample_bytes = 1000;
+  options.block_bytes = 100;
+  outcome const read = read_all(text, options);
+  EXPECT_EQ(read.findings.decoding.bad_bytes, 0U);
+  EXPECT_EQ(read.decoded.bad_bytes, 3U);
+  EXPECT_EQ(read.decoded.first_bad_offsets,
+            (std::vector<std::uint64_t>{begin.size(), text.size() - 2, text.size() - 1}));
+  options.strict = true;
+  outcome const strict = read_all(text, options);
+  EXPECT_TRUE(strict.is_open && strict.whole == made::utf16(begin));
+  EXPECT_EQ(strict.error, "bad_bytes");
+  EXPECT_EQ(strict.error_byte, begin.size());
+  options.sample_bytes = 10000;
+  EXPECT_FALSE(read_all(text, options).is_open);
+}
+
+TEST(stream, outlives_the_source_and_can_be_taken_once) {
+  text_source source = text_source::open(memory_bytes("a,b\n"), "made");
+  auto const stream = source.stream();
+  EXPECT_THROW(static_cast<void>(source.stream()), std::logic_error);
+  text_source const moved = std::move(source);
+  EXPECT_EQ(moved.sample().view(), u"a,b\n");
+  source = text_source::open(memory_bytes("c\n"), "other");
+  stream.resizeInternalBuffer(10);
+  stream.refill();
+  EXPECT_EQ(std::u16string(stream.data(), stream.buffered()), u"a,b\n");
+}
+
+/// 64 MiB of lines, made as they are read.
+class endless_lines : public byte_source {
+ public:
+  std::size_t read(char* const room, std::size_t const capacity) override {
+    std::size_t const length = std::min(capacity, left_);
+    for (std::size_t i = 0; i < length; ++i) {
+      room[i] = (left_ - i) % 32 == 1 ? '\n' : 'a';
+    }
+    left_ -= length;
+    return length;
+  }
+
+ private:
+  std::size_t left_ = std::size_t{1} << 26U;
+};
+
+TEST(memory, stays_below_its_bound_for_text_of_any_size) {
+  std::size_t const before = bytes_in_use;
+  most_bytes_in_use = before;
+  text_source source = text_source::open(std::make_unique<endless_lines>(), "made");
+  EXPECT_LT(most_bytes_in_use - before, (std::size_t{7} << 20U) / 2);
+  auto stream = source.stream();
+  stream.resizeInternalBuffer(1 << 16);
+  std::size_t units = 0;
+  while (!stream.at_end()) {
+    stream.refill();
+    units += stream.buffered();
+    stream.advance(stream.buffered());
+  }
+  EXPECT_EQ(units, std::size_t{1} << 26U);
+  EXPECT_LT(most_bytes_in_use - before, (std::size_t{7} << 20U) / 2);
+}
+
+TEST(open_options, of_no_size_mean_one) {
+  open_options options;
+  options.sample_bytes = 0;
+  options.block_bytes = 0;
+  EXPECT_EQ(read_all("ab", options).sample, u"a");
+}
+
+}  // namespace
+}  // namespace textimport
