@@ -12,8 +12,8 @@
 
 #include <gtest/gtest.h>
 
-#include "support/decision.hpp"
-#include "support/text.hpp"
+#include "tests/support/decision.hpp"
+#include "tests/support/text.hpp"
 #include "text_format_detection/text_format_detection.hpp"
 
 namespace {

@@ -3,7 +3,7 @@
 // Which characters may be delimiters, and which lines are asked.
 #include <gtest/gtest.h>
 
-#include "support/text.hpp"
+#include "tests/support/text.hpp"
 #include "text_format_detection/detection/candidate_characters_internal.hpp"
 
 namespace {

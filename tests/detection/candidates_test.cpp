@@ -5,8 +5,8 @@
 
 #include <gtest/gtest.h>
 
-#include "support/decision.hpp"
-#include "support/text.hpp"
+#include "tests/support/decision.hpp"
+#include "tests/support/text.hpp"
 #include "text_format_detection/detection/candidates_internal.hpp"
 #include "text_format_detection/reading/sampler_internal.hpp"
 #include "text_format_detection/strategies/layout_strategies.hpp"

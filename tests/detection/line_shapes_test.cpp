@@ -4,7 +4,7 @@
 // does the overlay of all of them show?
 #include <gtest/gtest.h>
 
-#include "support/text.hpp"
+#include "tests/support/text.hpp"
 #include "text_format_detection/detection/fixed_width_detection_internal.hpp"
 #include "text_format_detection/detection/line_alignment_internal.hpp"
 #include "text_format_detection/strategies/layout_strategies.hpp"

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/text.hpp"
+#include "tests/support/text.hpp"
 #include "text_format_detection/detection/picker_rules/ranking_internal.hpp"
 #include "text_format_detection/detection/picker_rules/rules_internal.hpp"
 

@@ -5,8 +5,8 @@
 
 #include <gtest/gtest.h>
 
-#include "support/decision.hpp"
-#include "support/text.hpp"
+#include "tests/support/decision.hpp"
+#include "tests/support/text.hpp"
 
 namespace {
 

@@ -7,8 +7,8 @@
 
 #include <gtest/gtest.h>
 
-#include "support/stream.hpp"
-#include "support/text.hpp"
+#include "tests/support/stream.hpp"
+#include "tests/support/text.hpp"
 #include "text_format_detection/model/options.hpp"
 
 namespace {

@@ -4,7 +4,7 @@
 // behind them. In a sample every line of a comment leaves an empty record.
 #include <gtest/gtest.h>
 
-#include "support/reading.hpp"
+#include "tests/support/reading.hpp"
 
 namespace {
 

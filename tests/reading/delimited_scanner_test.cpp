@@ -3,8 +3,8 @@
 // Delimited records: what each rule makes of a text.
 #include <gtest/gtest.h>
 
-#include "support/reading.hpp"
-#include "support/text.hpp"
+#include "tests/support/reading.hpp"
+#include "tests/support/text.hpp"
 #include "text_format_detection/reading/delimited_scanner_internal.hpp"
 
 namespace {

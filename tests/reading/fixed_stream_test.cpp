@@ -8,8 +8,8 @@
 
 #include <gtest/gtest.h>
 
-#include "support/stream.hpp"
-#include "support/text.hpp"
+#include "tests/support/stream.hpp"
+#include "tests/support/text.hpp"
 
 namespace {
 

@@ -3,7 +3,7 @@
 // Fixed-width records: columns, lines that end inside one, and what stands behind the last one.
 #include <gtest/gtest.h>
 
-#include "support/reading.hpp"
+#include "tests/support/reading.hpp"
 #include "text_format_detection/reading/fixed_width_scanner_internal.hpp"
 
 namespace {

@@ -3,7 +3,7 @@
 // Lines as single fields.
 #include <gtest/gtest.h>
 
-#include "support/reading.hpp"
+#include "tests/support/reading.hpp"
 #include "text_format_detection/reading/line_scanner_internal.hpp"
 
 namespace {

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/text.hpp"
+#include "tests/support/text.hpp"
 #include "text_format_detection/reading/sampler_internal.hpp"
 #include "text_format_detection/strategies/layout_strategies.hpp"
 

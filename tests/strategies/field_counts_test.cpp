@@ -3,7 +3,7 @@
 // The pure functions on the numbers of fields of lines.
 #include <gtest/gtest.h>
 
-#include "support/text.hpp"
+#include "tests/support/text.hpp"
 #include "text_format_detection/model/options.hpp"
 #include "text_format_detection/strategies/field_counts_internal.hpp"
 

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/text.hpp"
+#include "tests/support/text.hpp"
 
 namespace {
 

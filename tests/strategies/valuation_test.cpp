@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/text.hpp"
+#include "tests/support/text.hpp"
 #include "text_format_detection/reading/read_records.hpp"
 #include "text_format_detection/strategies/layout_strategies.hpp"
 

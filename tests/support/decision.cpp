@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "support/decision.hpp"
+#include "tests/support/decision.hpp"
 
 #include <array>
 
-#include "support/text.hpp"
+#include "tests/support/text.hpp"
 
 namespace support {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "support/reading.hpp"
+#include "tests/support/reading.hpp"
 
 #include <gtest/gtest.h>
 
-#include "support/text.hpp"
+#include "tests/support/text.hpp"
 #include "text_format_detection/model/errors.hpp"
 #include "text_format_detection/reading/sampler_internal.hpp"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "support/text.hpp"
+#include "tests/support/text.hpp"
 
 #include <array>
 #include <cstdio>
