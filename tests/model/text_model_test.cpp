@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/text.hpp"
+#include "tests/support/text.hpp"
 #include "text_format_detection/detection/strategy_selector.hpp"
 #include "text_format_detection/model/field.hpp"
 #include "text_format_detection/model/field_array.hpp"
@@ -85,7 +85,7 @@ TEST(TextModel, FieldArray) {
   }
   FieldArray fields;
   fields.append_empty_record();
-  fields.append_record(u"ab,,c", std::vector<std::size_t>{0, 2, 3, 3, 4, 5});
+  fields.append_record(u"ab,,c", std::vector<textio::FieldBounds>{{0, 2}, {3, 3}, {4, 5}});
   fields.append_record(std::vector<Field>{Field(u"d"), Field(u"e")});
   EXPECT_EQ(show(fields), "() / ab||c / d|e");
   EXPECT_EQ(fields.record_start(2), 3U);
