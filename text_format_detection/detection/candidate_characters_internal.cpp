@@ -46,12 +46,10 @@ class CandidateSet {
  public:
   void add_from(std::u16string_view const line) {
     for (char16_t const unit : line) {
-      if (unit == end_mark) {
+      if (unit < num_ascii) {
+        add(unit);
+      } else if (unit == end_mark) {
         return;
-      }
-      if (unit < num_ascii && open_[unit]) {
-        open_[unit] = false;
-        characters_.push_back(unit);
       }
     }
   }
@@ -59,6 +57,13 @@ class CandidateSet {
   [[nodiscard]] std::u16string take() { return std::move(characters_); }
 
  private:
+  void add(char16_t const unit) {
+    if (open_[unit]) {
+      open_[unit] = false;
+      characters_.push_back(unit);
+    }
+  }
+
   std::array<bool, num_ascii> open_ = make_eligible();  // eligible and not met yet
   std::u16string characters_;
 };

@@ -40,7 +40,7 @@ std::size_t DelimiterMatcher::StringList::length_of_match(
     return 0;
   }
   for (std::u16string const& string : strings) {
-    if (text.starts_with(string)) {
+    if (string.front() == text.front() && (string.size() == 1 || text.starts_with(string))) {
       return string.size();
     }
   }

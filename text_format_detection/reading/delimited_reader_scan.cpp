@@ -12,11 +12,11 @@ void apply_trailing_rule(enums::TrailingDelimitersRule const rule, RecordScan& s
   if (rule == enums::TrailingDelimitersRule::Keep) {
     return;
   }
-  while (!scan.fields.empty() && scan.fields.back().start == scan.fields.back().end) {
+  while (scan.num_fields() > 0 && scan.fields().back().start == scan.fields().back().end) {
     if (rule == enums::TrailingDelimitersRule::Error) {
       throw parser::exception::trailing_delimiters_error(0, 0, {}, {});
     }
-    scan.fields.pop_back();
+    scan.drop_last_field();
   }
 }
 

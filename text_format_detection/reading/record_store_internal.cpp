@@ -9,7 +9,7 @@
 namespace textio::reading {
 
 void RecordStore::store(std::u16string_view const text, RecordScan const& scan) {
-  std::span<FieldBounds const> const fields(scan.fields);
+  std::span<FieldBounds const> const fields = scan.fields();
   if (fields.empty() || (fields.size() == 1 && is_blank(text, fields.front()))) {
     store_empty();
     return;

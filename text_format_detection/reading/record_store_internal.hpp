@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -12,34 +13,51 @@
 
 namespace textio::reading {
 
-/// What a scanner found out about one record. Positions are relative to the record's start.
-struct RecordScan {
+/// What a scanner found out about one record. Positions are relative to the record's start. Scans
+/// of one text share one, so that its room is made once.
+class RecordScan {
+ public:
   /// What became of a fixed-width record that ends inside a column.
   enum class Status : unsigned char { Whole = 0, Missing = 1, FieldDropped = 2, RecordDropped = 3 };
 
-  /// One entry for each field.
-  std::vector<FieldBounds> fields;
   /// The number of code units of the record, its line ending included.
   std::size_t occupied = 0;
   /// Whether the record's line ending is the last thing in the text.
   bool ends_text = false;
   Status status = Status::Whole;
 
+  /// Starts a new record.
   void clear() noexcept {
-    fields.clear();
+    num_fields_ = 0;
     occupied = 0;
     ends_text = false;
     status = Status::Whole;
   }
 
-  void add_field(std::size_t const start, std::size_t const end) { fields.push_back({start, end}); }
+  void add_field(std::size_t const start, std::size_t const end) {
+    if (num_fields_ == slots_.size()) {
+      slots_.resize(2 * slots_.size() + 8);
+    }
+    slots_[num_fields_] = {start, end};
+    ++num_fields_;
+  }
 
-  [[nodiscard]] std::size_t num_fields() const noexcept { return fields.size(); }
+  void drop_last_field() noexcept { --num_fields_; }
+
+  [[nodiscard]] std::span<FieldBounds const> fields() const noexcept {
+    return std::span(slots_).first(num_fields_);
+  }
+
+  [[nodiscard]] std::size_t num_fields() const noexcept { return num_fields_; }
 
   /// The end of the last field; 0 without fields.
   [[nodiscard]] std::size_t last_end() const noexcept {
-    return fields.empty() ? 0 : fields.back().end;
+    return num_fields_ == 0 ? 0 : slots_[num_fields_ - 1].end;
   }
+
+ private:
+  std::vector<FieldBounds> slots_;  // the fields, and free slots behind them
+  std::size_t num_fields_ = 0;
 };
 
 /// Stores records in a field array.
