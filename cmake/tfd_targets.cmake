@@ -40,19 +40,6 @@ function(tfd_defaults target)
   target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:tfd_warnings>)
 endfunction()
 
-# tfd_drop_missing(LIST...): while files are still being written, leaves out what is not there yet.
-function(tfd_drop_missing)
-  foreach(list ${ARGN})
-    foreach(file ${${list}})
-      if(NOT EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/${file})
-        message(STATUS "not there yet: ${file}")
-        list(REMOVE_ITEM ${list} ${file})
-      endif()
-    endforeach()
-    set(${list} ${${list}} PARENT_SCOPE)
-  endforeach()
-endfunction()
-
 # tfd_version_script(TARGET MAP): exports only what MAP lists, and leaves no symbol unresolved.
 # clang keeps the sanitizers' run-time in the executable, hence the restriction to GNU.
 function(tfd_version_script target map)
