@@ -79,7 +79,10 @@ std::string candidates(std::u16string_view const text, options const& how) {
     }
   }
   EXPECT_EQ(accepted, list.size());
-  return support::show_sampled(report);
+  bool const is_fixed =
+      !list.empty() && list.front()->mode() == textio::enums::StrategyMode::FixedWidth;
+  return support::show_sampled(report) +
+         (is_fixed ? " h" + std::to_string(list.front()->header_lines()) : "");
 }
 
 struct CandidateRow {
@@ -118,61 +121,30 @@ TEST(Candidates, Blanks) {
       {u"a\tb \nc\td \n", {}, "delimited <\\t> #0, space-aligned #1, delimited < > less typed"},
       {u"a b", {}, "space-aligned #0, delimited < > #1"},
       // padded: columns compete with the blanks
-      {padded, {}, "space-aligned replaced, fixed-width 2 2 3 #0, delimited < > less typed"},
+      {padded, {}, "space-aligned replaced, fixed-width 2 2 3 #0, delimited < > less typed h0"},
       {padded, {.layout = Layout::SpaceAligned}, "space-aligned #0, delimited < > less typed"},
       {u"a b\nc d\ne f\n", {}, "space-aligned #0, delimited < > #1"},
   });
 }
 
 TEST(Candidates, FixedWidthAskedFor) {
+  // behind "h": the header lines of a fixed-width candidate
   std::u16string_view const text = u"heading\na b,c\nd e,f\n";
-  expect_candidates({
-      {text, {.layout = Layout::FixedWidth, .column_widths = {2, 3}}, "fixed-width 2 3 #0"},
-      {text, {.layout = Layout::FixedWidth}, "space-aligned replaced, fixed-width 1 4 #0"},
-      {text,
-       {.layout = Layout::FixedWidth, .header_lines = 3, .detect_header_lines = false},
-       "fixed-width 1 #0"},
-      {text,
-       {.layout = Layout::FixedWidth, .header_lines = 2, .detect_header_lines = false},
-       "space-aligned replaced, fixed-width 1 4 #0"},
-  });
-}
-
-TEST(Candidates, HeaderLinesOfFixedWidth) {
-  struct HeaderRow {
-    std::u16string_view text;
-    options how;
-    std::size_t expected;
-  };
-
-  auto const widths = std::vector<std::size_t>{2, 3};
-  for (auto const& [text, how, expected] : {
-           HeaderRow{u"a longer title\nab123\ncd456\nef789\n",
-                     {.layout = Layout::FixedWidth, .column_widths = widths},
-                     0},
-           {u"t\nab123\ncd456\nef789\n",
-            {.layout = Layout::FixedWidth, .column_widths = widths},
-            1},
-           {u"a longer title\nab123\ncd456\n",
-            {.layout = Layout::FixedWidth,
-            .column_widths = widths,
-            .header_lines = 2,
-            .detect_header_lines = false},
-            2},
-           {u"t\nab123\n",
-            {.layout = Layout::FixedWidth, .header_lines = 4, .detect_header_lines = false},
-            4},
-       }) {
-    textio::Field const sample(text);
-    ostrel::io::text::typedetection::TypeAnalyzerOptions const types;
-    textio::reading::SamplingContext context(sample, 100);
-    auto const lines = std::make_shared<textio::LineReaderStrategy>(how, types);
-    textio::reading::sample_strategy(context, lines, true);
-    auto const list = textio::detection::generate_candidates(
-        {how, types, *lines->field_array(), context, nullptr});
-    ASSERT_EQ(list.size(), 1U);
-    EXPECT_EQ(list.front()->header_lines(), expected) << support::show(text);
-  }
+  std::u16string_view const short_title = u"t\nab123\ncd456\nef789\n";
+  options found{.layout = Layout::FixedWidth};
+  expect_candidates({{text, found, "space-aligned replaced, fixed-width 1 4 #0 h1"}});
+  options given = found;
+  given.column_widths = {2, 3};
+  expect_candidates({{text, given, "fixed-width 2 3 #0 h0"},
+                     // the block of equally long lines begins behind the title
+                     {short_title, given, "fixed-width 2 3 #0 h1"}});
+  given.detect_header_lines = found.detect_header_lines = false;
+  given.header_lines = found.header_lines = 2;
+  expect_candidates({{short_title, given, "fixed-width 2 3 #0 h2"},
+                     {text, found, "space-aligned replaced, fixed-width 1 4 #0 h2"}});
+  // nothing but header lines
+  found.header_lines = 3;
+  expect_candidates({{text, found, "fixed-width 1 #0 h3"}});
 }
 
 }  // namespace

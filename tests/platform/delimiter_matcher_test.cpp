@@ -49,15 +49,4 @@ TEST(DelimiterMatcher, Matches) {
   }
 }
 
-TEST(DelimiterMatcher, OneStringOfOneUnitIsComparedAsAUnit) {
-  using textio::DelimiterMatcher;
-  auto const is_single = [](Strings const& strings) {
-    return std::holds_alternative<DelimiterMatcher::SingleUnit>(DelimiterMatcher(strings).mode());
-  };
-  EXPECT_TRUE(is_single({u","}));
-  for (Strings const& strings : {Strings{}, {u""}, {u",,"}, {u",", u";"}}) {
-    EXPECT_FALSE(is_single(strings)) << strings.size();
-  }
-}
-
 }  // namespace

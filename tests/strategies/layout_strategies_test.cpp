@@ -115,7 +115,6 @@ TEST(LayoutStrategies, PriorRankOfADelimiter) {
 
 TEST(LayoutStrategies, HeaderLinesThatAreGiven) {
   DelimitedStrategy delimited(options{}, {}, u',');
-  EXPECT_EQ(delimited.num_variables(), unknown_count);
   EXPECT_FALSE(delimited.header_lines(5));
   EXPECT_FALSE(delimited.detects_header_lines());
   EXPECT_EQ(delimited.header_lines(), 5U);
