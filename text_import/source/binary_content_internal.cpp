@@ -37,7 +37,7 @@ constexpr format_mark format_marks[] = {
      false,
      {"a document of an older office program (xls, doc ...)", "save the sheet as CSV"}},
     {0, "%PDF-"sv, false, {"a PDF document", no_table}},
-    {0, "{\\rtf"sv, false, {"an RTF document", "save it as plain text"}},
+    {0, R"({\rtf)"sv, false, {"an RTF document", "save it as plain text"}},
     {0, "\x89HDF\r\n\x1A\n"sv, false, {"an HDF5 file", export_as_text}},
     {0, "CDF\x01"sv, false, {"a NetCDF file", export_as_text}},
     {0, "CDF\x02"sv, false, {"a NetCDF file", export_as_text}},
@@ -77,10 +77,13 @@ constexpr format_mark format_marks[] = {
     {0, "\x5D\0\0\x80\0\xFF"sv, false, {"lzma data", unpack_first, true}},
 };
 
-/// The place of a control character that text hardly has. Tab, line ends, form feed and escape
-/// are none.
+/// True for the control characters that text hardly has: tab, line ends, page break and escape are
+/// none of them.
 bool is_control(char16_t const unit) {
-  return unit < 0x09 || (unit > 0x0D && unit < 0x20 && unit != 0x1B) || unit == 0x7F;
+  if (unit >= 0x20) {
+    return unit == 0x7F;
+  }
+  return unit < 0x09 || (unit > 0x0D && unit != 0x1B);
 }
 
 bool has_control_bytes(std::string_view const bytes) {

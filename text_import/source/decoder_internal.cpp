@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 #include <functional>
 #include <new>
 #include <numeric>
@@ -21,6 +20,7 @@
 
 #include "text_format_detection/model/options.hpp"
 #include "text_import/import_error.hpp"
+#include "text_import/source/ascii_internal.hpp"
 
 namespace textimport {
 namespace {
@@ -68,21 +68,6 @@ void on_bad_bytes(void const* const context, UConverterToUnicodeArgs* const argu
   *status = U_ZERO_ERROR;
   char16_t const unit = replacement;
   ucnv_cbToUWriteUChars(arguments, &unit, 1, 0, status);
-}
-
-std::size_t ascii_run(std::string_view const bytes) {
-  constexpr std::uint64_t high_bits = 0x8080808080808080U;
-  std::size_t run = 0;
-  for (std::uint64_t word = 0; run + sizeof word <= bytes.size(); run += sizeof word) {
-    std::memcpy(&word, bytes.data() + run, sizeof word);
-    if ((word & high_bits) != 0) {
-      break;
-    }
-  }
-  while (run < bytes.size() && static_cast<unsigned char>(bytes[run]) < 0x80) {
-    ++run;
-  }
-  return run;
 }
 
 void append_ascii(std::string_view const bytes, std::u16string& text) {

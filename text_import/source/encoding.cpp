@@ -15,6 +15,7 @@
 #include <uchardet.h>
 
 #include "text_import/import_error.hpp"
+#include "text_import/source/ascii_internal.hpp"
 #include "text_import/source/decoder_internal.hpp"
 #include "text_import/source/encoding_evidence_internal.hpp"
 #include "text_import/source/encoding_names_internal.hpp"
@@ -69,10 +70,29 @@ std::optional<std::string> by_nul_pattern(std::string_view const head) {
   return std::nullopt;
 }
 
-std::string statistical_answer(std::string_view const head) {
+/// The first lines with bytes that are no ASCII, as many as statistics need, since these take their
+/// time; the first lines at all for a text that has no such bytes. Cut at line feeds, which are
+/// the same in every encoding that comes to statistics.
+std::string telling_lines(std::string_view head) {
+  constexpr std::size_t enough = std::size_t{1} << 14U;
+  if (ascii_run(head) == head.size()) {
+    return std::string(head.substr(0, enough));
+  }
+  std::string lines;
+  while (!head.empty() && lines.size() < enough) {
+    std::string_view const line = head.substr(0, head.find('\n')).substr(0, enough - lines.size());
+    head.remove_prefix(std::min(head.size(), line.size() + 1));
+    if (ascii_run(line) != line.size()) {
+      lines.append(line) += '\n';
+    }
+  }
+  return lines;
+}
+
+std::string statistical_answer(std::string_view const text) {
   std::unique_ptr<uchardet, decltype(&uchardet_delete)> const detector(uchardet_new(),
                                                                        uchardet_delete);
-  if (detector == nullptr || uchardet_handle_data(detector.get(), head.data(), head.size()) != 0) {
+  if (detector == nullptr || uchardet_handle_data(detector.get(), text.data(), text.size()) != 0) {
     throw std::bad_alloc();
   }
   uchardet_data_end(detector.get());
@@ -124,24 +144,18 @@ std::string corrected(std::string const& answer, std::string_view const head) {
 }
 
 /// True when hardly a byte of the text is bad in the encoding.
-bool fits(std::string const& encoding, std::string_view head, bool const complete) {
-  constexpr std::size_t piece_bytes = std::size_t{1} << 14U;
-  auto const non_ascii = static_cast<std::uint64_t>(
-      std::count_if(head.begin(), head.end(), [](char const c) { return (c & 0x80) != 0; }));
+bool fits(std::string const& encoding, std::string_view const text) {
   decoder trial(encoding, 0, false, {});
-  std::u16string text;
-  while (!head.empty()) {
-    text.clear();
-    std::string_view const piece = head.substr(0, piece_bytes);
-    head.remove_prefix(piece.size());
-    trial.decode(piece, complete && head.empty(), text);
-  }
-  return trial.counts().bad_bytes * 16 <= non_ascii;
+  std::u16string decoded;
+  trial.decode(text, false, decoded);
+  auto const ascii = static_cast<std::uint64_t>(std::count_if(text.begin(), text.end(), is_ascii));
+  return trial.counts().bad_bytes * 16 <= text.size() - ascii;
 }
 
 /// The encoding that the statistics name, if it can be believed.
-std::optional<std::string> by_statistics(std::string_view const head, bool const complete) {
-  std::string const answer = statistical_answer(head);
+std::optional<std::string> by_statistics(std::string_view const head) {
+  std::string const lines = telling_lines(head);
+  std::string const answer = statistical_answer(lines);
   // Its words for "no idea", and for what was excluded before.
   if (answer.empty() || answer == "ASCII" || answer.starts_with("UTF-")) {
     return std::nullopt;
@@ -151,11 +165,11 @@ std::optional<std::string> by_statistics(std::string_view const head, bool const
     return std::nullopt;
   }
   std::string const encoding = corrected(known, head);
-  return fits(encoding, head, complete) ? std::optional(encoding) : std::nullopt;
+  return fits(encoding, lines) ? std::optional(encoding) : std::nullopt;
 }
 
-encoding_finding guess(std::string_view const head, bool const complete) {
-  if (auto const name = by_statistics(head, complete)) {
+encoding_finding guess(std::string_view const head) {
+  if (auto const name = by_statistics(head)) {
     return {*name, encoding_reason::Statistics,
             "the bytes are not UTF-8, and their frequencies speak for " + *name, 0};
   }
@@ -191,7 +205,7 @@ encoding_finding find_encoding(std::string_view const head, bool const complete)
   utf8_evidence const utf8 = examine_utf8(head, complete);
   if (utf8.faults == 0 && utf8.sequences == 0) {
     // ASCII with escapes may be text that shifts to other characters by them.
-    auto const shifting = utf8.has_escapes ? by_statistics(head, complete) : std::nullopt;
+    auto const shifting = utf8.has_escapes ? by_statistics(head) : std::nullopt;
     return shifting ? encoding_finding{*shifting, encoding_reason::Statistics,
                                        "the text shifts to other characters by escapes", 0}
                     : encoding_finding{"UTF-8", encoding_reason::OnlyAscii,
@@ -204,7 +218,7 @@ encoding_finding find_encoding(std::string_view const head, bool const complete)
     return {"UTF-8", encoding_reason::MostlyUtf8,
             "nearly all characters beyond ASCII are well-formed UTF-8", 0};
   }
-  return guess(head, complete);
+  return guess(head);
 }
 
 encoding_finding given_encoding(std::string const& name, std::string_view const head,

@@ -5,10 +5,12 @@
 #include <array>
 #include <cstddef>
 
+#include "text_import/source/ascii_internal.hpp"
+
 namespace textimport {
 namespace {
 
-constexpr unsigned char escape = 0x1B;
+constexpr char escape = '\x1B';
 
 unsigned char byte_at(std::string_view const bytes, std::size_t const i) {
   return static_cast<unsigned char>(bytes[i]);
@@ -112,12 +114,8 @@ struct utf16_evidence {
 
 utf8_evidence examine_utf8(std::string_view const bytes, bool const complete) {
   utf8_evidence evidence;
-  for (std::size_t i = 0; i < bytes.size();) {
-    if (byte_at(bytes, i) < 0x80) {
-      evidence.has_escapes = evidence.has_escapes || byte_at(bytes, i) == escape;
-      ++i;
-      continue;
-    }
+  evidence.has_escapes = bytes.find(escape) != std::string_view::npos;
+  for (std::size_t i = ascii_run(bytes); i < bytes.size(); i += ascii_run(bytes.substr(i))) {
     utf8_sequence const sequence = sequence_at(bytes.substr(i));
     bool const is_cut = i + sequence.length == bytes.size() && sequence.length > 0;
     if (sequence.full_length != 0 && sequence.length == sequence.full_length) {

@@ -85,23 +85,18 @@ std::unique_ptr<byte_source> open_file_or_archive(std::string& path, std::string
 
 void count_characters(std::u16string_view const text, text_findings& findings) {
   for (std::size_t i = 0; i < text.size(); ++i) {
-    switch (text[i]) {
-      case u'\0':
-        ++findings.nuls;
-        break;
-      case u'\n':
-        ++findings.line_endings.lf;
-        break;
-      case u'\r':
-        if (i + 1 < text.size() && text[i + 1] == u'\n') {
-          ++findings.line_endings.crlf;
-          ++i;
-        } else {
-          ++findings.line_endings.cr;
-        }
-        break;
-      default:
-        break;
+    if (text[i] > u'\r') {
+      continue;
+    }
+    if (text[i] == u'\0') {
+      ++findings.nuls;
+    } else if (text[i] == u'\n') {
+      ++findings.line_endings.lf;
+    } else if (text.substr(i, 2) == u"\r\n") {
+      ++findings.line_endings.crlf;
+      ++i;
+    } else if (text[i] == u'\r') {
+      ++findings.line_endings.cr;
     }
   }
 }
@@ -133,11 +128,11 @@ struct text_source::state {
   void cut_sample();
   void decode_next_block();
 
-  std::string ahead;  // a block that was read, but not decoded yet
-  std::u16string block_text;
-  std::u16string_view undelivered;
-  std::exception_ptr failure;
-  bool at_end = false;
+  std::string ahead_;  // a block that was read, but not decoded yet
+  std::u16string block_text_;
+  std::u16string_view undelivered_;
+  std::exception_ptr failure_;
+  bool at_end_ = false;
 };
 
 void text_source::state::open(std::unique_ptr<byte_source> raw) {
@@ -148,7 +143,7 @@ void text_source::state::open(std::unique_ptr<byte_source> raw) {
   std::string head;
   read_head(head);
   refuse_binary_format(head, findings.compression, path);
-  if (findings.goes_on && findings.compression == "zip" && options.member.empty() && !failure) {
+  if (findings.goes_on && findings.compression == "zip" && options.member.empty() && !failure_) {
     findings.warnings.emplace_back(
         "the first member of the archive is larger than the sample; whether others follow it was "
         "not looked at");
@@ -164,31 +159,31 @@ void text_source::state::open(std::unique_ptr<byte_source> raw) {
   }
   cut_sample();
   count_characters({head_text.data(), sample_length}, findings);
-  undelivered = head_text;
+  undelivered_ = head_text;
 }
 
 void text_source::state::read_head(std::string& head) {
   try {
-    while (head.size() < options.sample_bytes && !at_end) {
+    while (head.size() < options.sample_bytes && !at_end_) {
       std::size_t const room = std::min(options.block_bytes, options.sample_bytes - head.size());
-      at_end = append_bytes(*bytes, room, head) == 0;
+      at_end_ = append_bytes(*bytes, room, head) == 0;
     }
-    if (!at_end) {
-      at_end = append_bytes(*bytes, options.block_bytes, ahead) == 0;
+    if (!at_end_) {
+      at_end_ = append_bytes(*bytes, options.block_bytes, ahead_) == 0;
     }
   } catch (import_error const& error) {
     note_failure(error, !head.empty());
   }
   findings.bytes_read = head.size();
-  findings.goes_on = !at_end;
+  findings.goes_on = !at_end_;
 }
 
 void text_source::state::note_failure(import_error const& error, bool const after_text) {
   if (!after_text || !leaves_text_usable(error.kind())) {
     throw;  // the error that is being handled
   }
-  failure = std::current_exception();
-  at_end = error.kind() == import_error_kind::WrongChecksum;  // the text itself is complete
+  failure_ = std::current_exception();
+  at_end_ = error.kind() == import_error_kind::WrongChecksum;  // the text itself is complete
   findings.warnings.push_back(error.message());
 }
 
@@ -207,32 +202,32 @@ void text_source::state::cut_sample() {
 }
 
 std::size_t text_source::state::deliver(char16_t* const room, std::size_t const capacity) {
-  while (undelivered.empty()) {
-    if (failure) {
-      std::rethrow_exception(failure);
+  while (undelivered_.empty()) {
+    if (failure_) {
+      std::rethrow_exception(failure_);
     }
-    if (at_end) {
+    if (at_end_) {
       return 0;
     }
     decode_next_block();
   }
-  std::size_t const delivered = undelivered.copy(room, capacity);
-  undelivered.remove_prefix(delivered);
+  std::size_t const delivered = undelivered_.copy(room, capacity);
+  undelivered_.remove_prefix(delivered);
   return delivered;
 }
 
 void text_source::state::decode_next_block() {
-  block_text.clear();
+  block_text_.clear();
   try {
-    if (ahead.empty()) {
-      at_end = append_bytes(*bytes, options.block_bytes, ahead) == 0;
+    if (ahead_.empty()) {
+      at_end_ = append_bytes(*bytes, options.block_bytes, ahead_) == 0;
     }
-    std::string const block = std::exchange(ahead, {});
-    decoding->decode(block, at_end, block_text);
+    std::string const block = std::exchange(ahead_, {});
+    decoding->decode(block, at_end_, block_text_);
   } catch (...) {
-    failure = std::current_exception();
+    failure_ = std::current_exception();
   }
-  undelivered = block_text;
+  undelivered_ = block_text_;
 }
 
 text_source::text_source(std::shared_ptr<state> opened) noexcept : state_(std::move(opened)) {}
