@@ -40,8 +40,7 @@ std::string header_text(Answer const& answer, Settings const& settings) {
   if (settings.is_given(Option::HeaderLines) && !settings.parsing.detect_header_lines) {
     return fmt::format("{} (given)", answer.header_lines);
   }
-  bool const may_be_names =
-      !answer.column_types.empty() && answer.finding.strategy->mode() != StrategyMode::LineReader;
+  bool const may_be_names = answer.column_types.size() > 1;
   return fmt::format("{}{}", answer.header_lines,
                      may_be_names ? "; the first row may be names" : "");
 }

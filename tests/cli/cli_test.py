@@ -551,23 +551,36 @@ try text-format detect examples/data/ord
             ["--layout", "fixed-width", "lines", "zsh", "explain", "examples/data/orders.csv"],
             b""))
 
-    def readme_blocks(self, language):
-        text = (ROOT / "README.md").read_text(encoding="utf-8")
+    def blocks(self, document, language):
+        text = (ROOT / document).read_text(encoding="utf-8")
         return re.findall(rf"^```{language}\n(.*?)^```$", text, re.DOTALL | re.MULTILINE)
 
-    def test_readme_shows_real_output(self):
-        blocks = self.readme_blocks("console")
-        self.assertGreaterEqual(len(blocks), 3)
-        for block in blocks:
-            command, _, output = block.partition("\n")
-            words = command.removeprefix("$ tools/run ").split()
-            self.assertEqual(run(*words).stdout.decode(), output, command)
+    def test_documents_show_real_output(self):
+        for document in ["README.md", "docs/command-line.md"]:
+            blocks = self.blocks(document, "console")
+            self.assertGreaterEqual(len(blocks), 3)
+            for block in blocks:
+                command, _, output = block.partition("\n")
+                words = command.removeprefix("$ tools/run ").split()
+                self.assertEqual(run(*words).stdout.decode(), output, f"{document}: {command}")
+
+    def test_documents_name_real_options(self):
+        known = {option["name"] for option in self.table()}
+        foreign = {"--preset", "--build", "--install", "--prefix", "--cflags", "--libs"}
+        for document in ["README.md", "docs/command-line.md"]:
+            text = (ROOT / document).read_text(encoding="utf-8")
+            self.assertLessEqual(set(re.findall(r"--[a-z0-9-]+\b", text)) - foreign, known)
+
+    def test_documented_members(self):
+        text = (ROOT / "docs" / "command-line.md").read_text(encoding="utf-8")
+        for key in EXPLAIN_KEYS:
+            self.assertIn(f"`{key}`", text)
 
     def test_readme_shows_the_example_program(self):
         source = (ROOT / "examples" / "pick_strategy.cpp").read_text(encoding="utf-8")
         licence, _, program = source.partition("\n")
         self.assertTrue(licence.startswith("// SPDX"))
-        self.assertEqual(self.readme_blocks("cpp"), [program])
+        self.assertEqual(self.blocks("README.md", "cpp"), [program])
         done = subprocess.run([EXAMPLE], capture_output=True, check=True)
         text = (ROOT / "README.md").read_text(encoding="utf-8")
         self.assertIn(f"It prints `{done.stdout.decode().strip()}`", text)
