@@ -60,11 +60,12 @@ struct SampledStrategy {
   std::optional<std::size_t> candidate;
 };
 
-/// One rule that ran, and the candidates that it left, as ascending positions in the candidate
-/// list. The name is a constant.
+/// One rule that ran. Candidates are ascending positions in the candidate list.
 struct RuleStep {
-  std::string_view rule;
-  std::vector<std::size_t> survivors;
+  std::string_view rule;               ///< its name, a constant
+  std::vector<std::size_t> seen;       ///< the candidates that were left before
+  std::vector<double> measures;        ///< for each of these, the number that the rule looks at
+  std::vector<std::size_t> survivors;  ///< the candidates that it left
 };
 
 /// The record of one decision. Keeps every sampled strategy alive, and with it views into the

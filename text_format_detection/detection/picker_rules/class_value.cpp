@@ -3,8 +3,6 @@
 // Columns of a special type do not come about by chance: a date with a time of day weighs 25, a
 // date or duration 10, a number 3, any other value 1. A column that holds a lone delimiter
 // character speaks against the candidate.
-#include <functional>
-
 #include "text_format_detection/detection/picker_rules/rules_internal.hpp"
 #include "text_format_detection/detection/picker_rules/selection_internal.hpp"
 
@@ -20,21 +18,21 @@ std::int32_t other_columns(StrategyValuation const& score) {
                                    bits(score.delimiter_columns));
 }
 
-double class_score(StrategyValuation const& score) {
-  double const special =
-      (10.0 * score.date_columns + 25.0 * score.datetime_columns) + 3.0 * score.numeric_columns;
-  return special - static_cast<double>(score.delimiter_columns) +
-         static_cast<double>(other_columns(score));
-}
-
 }  // namespace
 
 Candidates class_value::apply(Candidates const& candidates, Valuations const& valuations) const {
-  return keep_best(candidates, valuations, class_score, std::greater<>());
+  return keep_greatest(*this, candidates, valuations);
 }
 
 std::string_view class_value::name() const noexcept {
   return "class_value";
+}
+
+double class_value::measure(StrategyValuation const& score) const noexcept {
+  double const special =
+      (10.0 * score.date_columns + 25.0 * score.datetime_columns) + 3.0 * score.numeric_columns;
+  return special - static_cast<double>(score.delimiter_columns) +
+         static_cast<double>(other_columns(score));
 }
 
 }  // namespace textio::detection::picker_rules

@@ -17,4 +17,8 @@ std::string_view dates::name() const noexcept {
   return "dates";
 }
 
+double dates::measure(StrategyValuation const& score) const noexcept {
+  return static_cast<double>(score.date_columns) + static_cast<double>(score.datetime_columns);
+}
+
 }  // namespace textio::detection::picker_rules

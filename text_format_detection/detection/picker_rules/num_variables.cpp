@@ -16,4 +16,8 @@ std::string_view numvariables::name() const noexcept {
   return "numvariables";
 }
 
+double numvariables::measure(StrategyValuation const& score) const noexcept {
+  return static_cast<double>(score.num_variables);
+}
+
 }  // namespace textio::detection::picker_rules

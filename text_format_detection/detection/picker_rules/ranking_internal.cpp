@@ -4,12 +4,23 @@
 #include "text_format_detection/detection/picker_rules/ranking_internal.hpp"
 
 #include <numeric>
+#include <utility>
 
 #include "text_format_detection/detection/picker_rules/rules_internal.hpp"
 
 namespace textio::detection::picker_rules {
 
 namespace {
+
+RuleStep describe_step(Rule const& rule, Candidates const& seen, Valuations const& valuations,
+                       Candidates const& survivors) {
+  std::vector<double> measures;
+  measures.reserve(seen.size());
+  for (std::size_t const candidate : seen) {
+    measures.push_back(rule.measure(valuations[candidate]));
+  }
+  return {rule.name(), seen, std::move(measures), survivors};
+}
 
 /// What is decided by the candidates that are left when no rule is.
 std::int32_t decide(Candidates const& left) {
@@ -46,10 +57,11 @@ std::int32_t pick_index(RuleList const& rules, Valuations const& valuations,
     if (candidates.size() < 2) {
       break;
     }
-    candidates = rule->apply(candidates, valuations);
+    Candidates survivors = rule->apply(candidates, valuations);
     if (steps != nullptr) {
-      steps->push_back({rule->name(), candidates});
+      steps->push_back(describe_step(*rule, candidates, valuations, survivors));
     }
+    candidates = std::move(survivors);
   }
   return decide(candidates);
 }

@@ -15,4 +15,8 @@ std::string_view Rule::name() const noexcept {
   return "none";
 }
 
+double Rule::measure(StrategyValuation const& /*score*/) const noexcept {
+  return 0.0;
+}
+
 }  // namespace textio::detection::picker_rules

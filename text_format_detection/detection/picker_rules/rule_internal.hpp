@@ -39,6 +39,9 @@ class Rule {
 
   /// The name under which reports mention the rule; a constant.
   [[nodiscard]] virtual std::string_view name() const noexcept;
+
+  /// The number of a score that the rule looks at.
+  [[nodiscard]] virtual double measure(StrategyValuation const& score) const noexcept;
 };
 
 }  // namespace textio::detection::picker_rules

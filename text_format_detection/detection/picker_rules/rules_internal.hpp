@@ -18,6 +18,7 @@ class numvariables : public Rule {
   [[nodiscard]] Candidates apply(Candidates const& candidates,
                                  Valuations const& valuations) const override;
   [[nodiscard]] std::string_view name() const noexcept override;
+  [[nodiscard]] double measure(StrategyValuation const& score) const noexcept override;
 
  private:
   std::uint64_t expected_count;  // NOLINT(readability-identifier-naming)
@@ -29,6 +30,7 @@ class dates : public Rule {
   [[nodiscard]] Candidates apply(Candidates const& candidates,
                                  Valuations const& valuations) const override;
   [[nodiscard]] std::string_view name() const noexcept override;
+  [[nodiscard]] double measure(StrategyValuation const& score) const noexcept override;
 };
 
 /// Keeps the candidates that are about as regular as the most regular one.
@@ -37,6 +39,7 @@ class variation : public Rule {
   [[nodiscard]] Candidates apply(Candidates const& candidates,
                                  Valuations const& valuations) const override;
   [[nodiscard]] std::string_view name() const noexcept override;
+  [[nodiscard]] double measure(StrategyValuation const& score) const noexcept override;
 };
 
 /// Keeps the candidates whose columns say most.
@@ -45,6 +48,7 @@ class class_value : public Rule {
   [[nodiscard]] Candidates apply(Candidates const& candidates,
                                  Valuations const& valuations) const override;
   [[nodiscard]] std::string_view name() const noexcept override;
+  [[nodiscard]] double measure(StrategyValuation const& score) const noexcept override;
 };
 
 /// Among perfectly regular candidates, keeps those with the fewest header lines.
@@ -53,6 +57,7 @@ class header_lines : public Rule {
   [[nodiscard]] Candidates apply(Candidates const& candidates,
                                  Valuations const& valuations) const override;
   [[nodiscard]] std::string_view name() const noexcept override;
+  [[nodiscard]] double measure(StrategyValuation const& score) const noexcept override;
 };
 
 /// Keeps the candidates with the largest share of columns that hold values.
@@ -61,6 +66,7 @@ class non_empty : public Rule {
   [[nodiscard]] Candidates apply(Candidates const& candidates,
                                  Valuations const& valuations) const override;
   [[nodiscard]] std::string_view name() const noexcept override;
+  [[nodiscard]] double measure(StrategyValuation const& score) const noexcept override;
 };
 
 /// Keeps the one candidate with the most usual delimiter.
@@ -69,6 +75,7 @@ class priors_rank : public Rule {
   [[nodiscard]] Candidates apply(Candidates const& candidates,
                                  Valuations const& valuations) const override;
   [[nodiscard]] std::string_view name() const noexcept override;
+  [[nodiscard]] double measure(StrategyValuation const& score) const noexcept override;
 };
 
 }  // namespace textio::detection::picker_rules

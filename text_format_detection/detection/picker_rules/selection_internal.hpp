@@ -20,27 +20,27 @@ template <class Test>
   return kept.empty() ? candidates : kept;
 }
 
-/// The first candidate whose value is the best; `better` is strict.
-template <class Value, class Better>
-[[nodiscard]] std::size_t find_best(Candidates const& candidates, Valuations const& valuations,
-                                    Value const value, Better const better) {
-  std::size_t best = candidates.front();
-  for (std::size_t const c : candidates) {
-    if (better(value(valuations[c]), value(valuations[best]))) {
-      best = c;
-    }
-  }
-  return best;
+/// The first candidate with the least measure.
+[[nodiscard]] inline std::size_t find_least(Rule const& rule, Candidates const& candidates,
+                                            Valuations const& valuations) {
+  return *std::min_element(candidates.begin(), candidates.end(),
+                           [&](std::size_t const a, std::size_t const b) {
+                             return rule.measure(valuations[a]) < rule.measure(valuations[b]);
+                           });
 }
 
-/// The candidates whose value equals the best one exactly; all of them when none does, which takes
-/// a best value that is not a number.
-template <class Value, class Better>
-[[nodiscard]] Candidates keep_best(Candidates const& candidates, Valuations const& valuations,
-                                   Value const value, Better const better) {
-  auto const best = value(valuations[find_best(candidates, valuations, value, better)]);
+/// The candidates whose measure equals the greatest one exactly; all of them when none does, which
+/// takes a greatest one that is not a number.
+[[nodiscard]] inline Candidates keep_greatest(Rule const& rule, Candidates const& candidates,
+                                              Valuations const& valuations) {
+  std::size_t const best = *std::max_element(
+      candidates.begin(), candidates.end(), [&](std::size_t const a, std::size_t const b) {
+        return rule.measure(valuations[a]) < rule.measure(valuations[b]);
+      });
   return keep_if(candidates, valuations,
-                 [&](StrategyValuation const& score) { return value(score) == best; });
+                 [&, greatest = rule.measure(valuations[best])](StrategyValuation const& score) {
+                   return rule.measure(score) == greatest;
+                 });
 }
 
 }  // namespace textio::detection::picker_rules

@@ -7,7 +7,6 @@
 // Two consequences are intended: with a least variation of +infinity, and with one of 0 over a
 // single record, nobody is within the tolerance, and all candidates pass.
 #include <cmath>
-#include <functional>
 
 #include "text_format_detection/detection/picker_rules/rules_internal.hpp"
 #include "text_format_detection/detection/picker_rules/selection_internal.hpp"
@@ -15,10 +14,6 @@
 namespace textio::detection::picker_rules {
 
 namespace {
-
-double variation_of(StrategyValuation const& score) {
-  return score.data_variation;
-}
 
 double tolerance(StrategyValuation const& best) {
   double const relative = 0.1 * best.data_variation;
@@ -29,8 +24,7 @@ double tolerance(StrategyValuation const& best) {
 }  // namespace
 
 Candidates variation::apply(Candidates const& candidates, Valuations const& valuations) const {
-  StrategyValuation const& best =
-      valuations[find_best(candidates, valuations, variation_of, std::less<>())];
+  StrategyValuation const& best = valuations[find_least(*this, candidates, valuations)];
   return keep_if(candidates, valuations,
                  [&best, limit = tolerance(best)](StrategyValuation const& score) {
                    return limit > score.data_variation - best.data_variation;
@@ -39,6 +33,10 @@ Candidates variation::apply(Candidates const& candidates, Valuations const& valu
 
 std::string_view variation::name() const noexcept {
   return "variation";
+}
+
+double variation::measure(StrategyValuation const& score) const noexcept {
+  return score.data_variation;
 }
 
 }  // namespace textio::detection::picker_rules
