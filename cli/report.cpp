@@ -21,6 +21,11 @@ using textio::enums::StrategyMode;
 
 constexpr std::size_t table_indent = 4;
 
+/// What a list is ended with that is too long to be shown.
+std::string and_more(std::size_t const count) {
+  return count == 0 ? std::string() : fmt::format(" and {} more", count);
+}
+
 std::string given_mark(Settings const& settings, std::initializer_list<Option> const parts) {
   bool const given =
       std::ranges::any_of(parts, [&](Option const part) { return settings.is_given(part); });
@@ -46,7 +51,11 @@ std::string header_text(Answer const& answer, Settings const& settings) {
 }
 
 std::string widths_text(std::vector<std::size_t> const& widths) {
-  return fmt::format("{}", fmt::join(widths, ", "));
+  constexpr std::size_t most = 60;
+  std::size_t const shown = std::min(widths.size(), most);
+  return fmt::format("{}{}",
+                     fmt::join(widths.begin(), widths.begin() + std::ptrdiff_t(shown), ", "),
+                     and_more(widths.size() - shown));
 }
 
 std::string text_text(Answer const& answer, Settings const& settings) {
@@ -161,7 +170,10 @@ std::string type_runs(std::vector<ColumnType> const& types) {
                                     : fmt::format("{}-{} {}", start + 1, end, word));
     start = end;
   }
-  return fmt::format("{}", fmt::join(runs, ", "));
+  constexpr std::size_t most = 40;
+  std::size_t const rest = runs.size() - std::min(runs.size(), most);
+  runs.resize(runs.size() - rest);
+  return fmt::format("{}{}", fmt::join(runs, ", "), and_more(rest));
 }
 
 std::vector<std::string> notes(Answer const& answer) {

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+
+#include "cli/explain_rules.hpp"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <utility>
+#include <vector>
+
+#include <fmt/format.h>
+
+#include "cli/lines.hpp"
+#include "cli/words.hpp"
+
+namespace cli {
+
+namespace {
+
+using textio::detection::DetectionReport;
+
+constexpr std::size_t indent = 4;
+
+/// Positions in the list as a reader counts them, runs taken together: "#1, #3-7".
+std::string position_ranges(std::vector<std::size_t> const& positions) {
+  std::vector<std::string> ranges;
+  for (std::size_t start = 0; start < positions.size();) {
+    std::size_t end = start + 1;
+    while (end < positions.size() && positions[end] == positions[end - 1] + 1) {
+      ++end;
+    }
+    std::size_t const first = positions[start] + 1;
+    std::size_t const last = positions[end - 1] + 1;
+    ranges.push_back(first == last ? fmt::format("#{}", first)
+                                   : fmt::format("#{}-{}", first, last));
+    start = end;
+  }
+  return fmt::format("{}", fmt::join(ranges, ", "));
+}
+
+/// Those who were kept or fell at a rule, by their numbers: "0: #2, #4; 1: #3".
+std::string grouped_by_number(std::vector<std::pair<double, std::size_t>> candidates) {
+  std::ranges::stable_sort(candidates, {}, &std::pair<double, std::size_t>::first);
+  std::vector<std::string> groups;
+  for (std::size_t start = 0; start < candidates.size();) {
+    std::string const number = number_text(candidates[start].first);
+    std::vector<std::size_t> positions;
+    while (start < candidates.size() && number_text(candidates[start].first) == number) {
+      positions.push_back(candidates[start++].second);
+    }
+    groups.push_back(fmt::format("{}: {}", number, position_ranges(positions)));
+  }
+  return fmt::format("{}", fmt::join(groups, "; "));
+}
+
+/// Who was kept or fell at a rule, each with its number; by name as long as they are few.
+std::string with_numbers(DetectionReport const& report, RuleNumbers const& rule, bool const kept) {
+  constexpr std::size_t few = 6;
+  std::vector<std::pair<double, std::size_t>> candidates;
+  std::vector<std::string> names;
+  for (std::size_t i = 0; i < rule.seen.size(); ++i) {
+    std::size_t const candidate = rule.seen[i];
+    if (std::ranges::binary_search(rule.kept, candidate) == kept) {
+      candidates.emplace_back(rule.numbers[i], candidate);
+      names.push_back(fmt::format("#{} {}: {}", candidate + 1,
+                                  reading_name(*report.candidates[candidate]),
+                                  number_text(rule.numbers[i])));
+    }
+  }
+  return names.size() <= few ? fmt::format("{}", fmt::join(names, ", "))
+                             : grouped_by_number(std::move(candidates));
+}
+
+std::string_view rule_text(std::string_view const rule) {
+  constexpr std::array<std::pair<std::string_view, std::string_view>, 7> texts{{
+      {"numvariables", "the number of columns that is expected"},
+      {"dates", "any columns of dates and times"},
+      {"variation", "least irregular, small differences aside"},
+      {"class_value",
+       "most telling column types: a date with time counts 25, a date or duration "
+       "10, a number 3, another type 1, a lone delimiter -1"},
+      {"header_lines", "fewest header lines, if the records are all alike"},
+      {"non_empty", "largest share of columns with values"},
+      {"priors_rank",
+       "most usual delimiter: comma 0, tab 1, semicolon 2, space 3, runs of blanks "
+       "3.5"},
+  }};
+  auto const* const known = std::ranges::find(texts, rule, &decltype(texts)::value_type::first);
+  return known == texts.end() ? rule : known->second;
+}
+
+}  // namespace
+
+std::string number_text(double const number) {
+  constexpr double largest_real = 1e15;  // what stands above marks the end of a list
+  return std::isfinite(number) && number < largest_real ? fmt::format("{:.4g}", number) : "none";
+}
+
+std::string paragraph(std::string_view const text, std::size_t const width,
+                      std::size_t const left) {
+  return std::string(left, ' ') + wrapped(text, left, width);
+}
+
+std::string rules_text(DetectionReport const& report, Explanation const& explanation,
+                       std::size_t const width) {
+  std::string text;
+  std::size_t number = 0;
+  for (RuleNumbers const& rule : explanation.rules) {
+    text += fmt::format("  {}. {}: ", ++number, rule.rule) +
+            wrapped(rule_text(rule.rule), indent + 1 + rule.rule.size() + 2, width);
+    bool const none_fell = rule.kept.size() == rule.seen.size();
+    text += paragraph(fmt::format("{} of {} stay: {}", rule.kept.size(), rule.seen.size(),
+                                  with_numbers(report, rule, true)),
+                      width);
+    if (!none_fell) {
+      text += paragraph("out: " + with_numbers(report, rule, false), width);
+    }
+  }
+  return text;
+}
+
+}  // namespace cli
