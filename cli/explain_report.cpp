@@ -12,6 +12,7 @@
 #include "cli/lines.hpp"
 #include "cli/utf.hpp"
 #include "cli/words.hpp"
+#include "text_import/import_error.hpp"
 
 namespace cli {
 
@@ -196,7 +197,8 @@ std::string summary(Answer const& answer, Settings const& settings,
 std::string explain_report(Answer const& answer, Settings const& settings, Colors const& colors) {
   Explanation const explanation = explain_answer(answer, settings);
   std::string text =
-      fmt::format("{}{}{}\n", colors.heading, display_bytes(answer.path).utf8, colors.reset);
+      fmt::format("{}{}{}\n", colors.heading,
+                  display_bytes(textimport::display_name(answer.path)).utf8, colors.reset);
   text += summary(answer, settings, explanation);
   if (!answer.finding.report) {
     text += heading("The reading that was given", colors);

@@ -27,10 +27,10 @@ std::string roff(std::string_view const text) {
 }
 
 std::string option_heading(OptionSpec const& row) {
-  std::string text = row.letter == 0 ? "" : fmt::format("\\fB\\-{}\\fR, ", row.letter);
-  text += fmt::format("\\fB{}\\fR", roff(flag(row.option)));
+  std::string text = row.letter == 0 ? "" : fmt::format(R"(\fB\-{}\fR, )", row.letter);
+  text += fmt::format(R"(\fB{}\fR)", roff(flag(row.option)));
   if (takes_value(row)) {
-    text += fmt::format(" \\fI{}\\fR", roff(value_name(row)));
+    text += fmt::format(R"( \fI{}\fR)", roff(value_name(row)));
   }
   return text;
 }
@@ -67,7 +67,7 @@ std::string man_page() {
   text += fmt::format(".SH DESCRIPTION\n{}\n.PP\n{}\n.SH COMMANDS\n", roff(program_purpose),
                       roff(about_files));
   for (CommandSpec const& command : commands()) {
-    text += entry(fmt::format("\\fB{}\\fR", command.name), command.help);
+    text += entry(fmt::format(R"(\fB{}\fR)", command.name), command.help);
   }
   text += ".SH OPTIONS\n";
   OptionSpec const* previous = nullptr;
@@ -79,8 +79,8 @@ std::string man_page() {
     previous = &row;
   }
   text += fmt::format(".SH EXIT STATUS\n{}\n.SH ENVIRONMENT\n", roff(about_exit_codes));
-  text += entry("\\fBNO_COLOR\\fR", "Set to anything: no colour on a terminal.");
-  text += entry("\\fBTERM\\fR", "\"dumb\": no colour either.");
+  text += entry(R"(\fBNO_COLOR\fR)", "Set to anything: no colour on a terminal.");
+  text += entry(R"(\fBTERM\fR)", "\"dumb\": no colour either.");
   return text + ".SH EXAMPLES\n" + std::string(examples);
 }
 

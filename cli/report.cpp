@@ -11,6 +11,7 @@
 #include "cli/preview.hpp"
 #include "cli/table.hpp"
 #include "cli/words.hpp"
+#include "text_import/import_error.hpp"
 
 namespace cli {
 
@@ -206,7 +207,8 @@ std::vector<std::string> notes(Answer const& answer) {
 std::string report(Answer const& answer, Settings const& settings, Colors const& colors) {
   Preview const preview = make_preview(answer, settings);
   std::string text =
-      fmt::format("{}{}{}\n", colors.heading, display_bytes(answer.path).utf8, colors.reset);
+      fmt::format("{}{}{}\n", colors.heading,
+                  display_bytes(textimport::display_name(answer.path)).utf8, colors.reset);
   text += facts(answer, settings, preview);
   if (!preview.rows.empty()) {
     text += "\n" + rows_text(answer, preview, settings);

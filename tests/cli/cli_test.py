@@ -280,7 +280,64 @@ class Options(Case):
             self.assertIn(line + "\n", text)
 
 
+# Options, the text, and the rows as they are shown: cells are aligned by the width of characters,
+# long values cut, quotes taken off, what would disturb a terminal escaped.
+SHOWN = [
+    ("-d ,", "日本,1\ne\u0301clair,22\n\U0001f600,333\n",
+     ["text    number",
+      "------  ------",
+      "日本         1",
+      "e\u0301clair      22",
+      "\U0001f600         333"]),
+    ("-d ,", '"a ""b""", 1 \n x ,"2\n3"\n"y,\n', [
+        "text   text",
+        "-----  ----",
+        'a "b"  1',
+        r"x      2\n3",
+        r'"y,\n']),
+    ("-d ; --width 40", "a;" + "b" * 60 + ";c\nd;e;f\n", [
+        "text  text                text",
+        "----  ------------------  ----",
+        "a     bbbbbbbbbbbbbbb...  c",
+        "d     e                   f"]),
+    ("-d , --width 40", ",".join(f"column{n}" for n in range(12)), [
+        "undecided  undecided  undecided",
+        "---------  ---------  ---------",
+        "column0    column1    column2",
+        "(columns 1 to 3 of 12)"]),
+    ("-w 2,3,50", "ab日\nx\ty", [
+        "|2--|3--|50--------------------------------------|",
+        "|ab |日 |                                        |",
+        r"|x\t|y  |                                        |"]),
+    ("-w 2,18446744073709551615", "abc\n", [
+        "|2-|18446744073709551615--------------------|",
+        "|ab|c                                       |"]),
+    ("-l lines", "a\\b\t\x7f\n\u200b\u202e\ud7ff\n", [
+        "text",
+        "------------------",
+        r"a\b\t\x7f",
+        r"\u200b\u202e\ud7ff"]),
+    ("-d , --header-lines 13 --rows 1", "".join(f"{n},\n" for n in range(14)), [
+        "undecided  undecided",
+        "---------  ---------",
+        "13"]),
+]
+
+
 class Manners(Case):
+    def test_rows_as_they_are_shown(self):
+        for options, text, rows in SHOWN:
+            with self.subTest(options=options, text=text[:30]):
+                shown = run(*options.split(), stdin=text.encode()).stdout.decode()
+                self.assertEqual(shown.split("\n\n", 1)[1].splitlines(),
+                                 ["    " + row for row in rows])
+
+    def test_long_headers_are_cut(self):
+        shown = run("-d", ",", "--header-lines", "14", stdin=b"".join(
+            b"%d," % n + b"x" * 90 + b"\n" for n in range(20))).stdout.decode()
+        self.assertIn("\n      1| 0," + "x" * 66 + "...\n", shown)
+        self.assertIn("\n     12| 11," + "x" * 65 + "...\n       | (and 2 more)\n", shown)
+
     def test_bad_files_do_not_stop_the_rest(self):
         done = run("--json", "examples/data/clubs.tsv", "missing", "examples", "-",
                    "examples/data/orders.csv", stdin=b"x,1\ny,2\n")
