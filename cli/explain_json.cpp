@@ -85,11 +85,13 @@ ordered_json sampled_array(DetectionReport const& report) {
   return array;
 }
 
-ordered_json rules_array(Explanation const& explanation) {
+ordered_json rules_array(DetectionReport const& report) {
   ordered_json array = ordered_json::array();
-  for (RuleNumbers const& rule : explanation.rules) {
-    array.push_back(
-        {{"rule", rule.rule}, {"seen", rule.seen}, {"numbers", rule.numbers}, {"kept", rule.kept}});
+  for (auto const& step : report.steps) {
+    array.push_back({{"rule", step.rule},
+                     {"seen", step.seen},
+                     {"measures", step.measures},
+                     {"survivors", step.survivors}});
   }
   return array;
 }
@@ -113,7 +115,7 @@ ordered_json explain_object(Answer const& answer, Settings const& settings) {
   object["line_reader"] = nullptr;
   object["not_tried"] = untried_array(explanation);
   object["sampled"] = ordered_json::array();
-  object["rules"] = rules_array(explanation);
+  object["rules"] = ordered_json::array();
   object["winner"] = nullptr;
   object["runners_up"] = explanation.runners_up;
   object["margin"] = nullptr;
@@ -126,6 +128,7 @@ ordered_json explain_object(Answer const& answer, Settings const& settings) {
     object["outcome"] = outcome_word(report.outcome);
     object["line_reader"] = strategy_object(*report.line_reader);
     object["sampled"] = sampled_array(report);
+    object["rules"] = rules_array(report);
     if (report.winner) {
       object["winner"] = *report.winner;
     }

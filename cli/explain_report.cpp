@@ -156,8 +156,8 @@ std::string runners_up_text(DetectionReport const& report, Explanation const& ex
   std::string const more = rest > 0 ? fmt::format(" and {} more", rest) : "";
   std::string const margin =
       explanation.margin ? fmt::format(", by {}", number_text(*explanation.margin)) : "";
-  return fmt::format("{}{} (fell at {}{})", fmt::join(names, ", "), more,
-                     explanation.rules.back().rule, margin);
+  return fmt::format("{}{} (fell at {}{})", fmt::join(names, ", "), more, report.steps.back().rule,
+                     margin);
 }
 
 std::string answer_text(Answer const& answer) {
@@ -217,9 +217,9 @@ std::string explain_report(Answer const& answer, Settings const& settings, Color
   text += characters_text(answer, explanation, settings.width);
   text += heading("Readings that were tried; irregular must be below 1", colors);
   text += candidates_text(report);
-  if (!explanation.rules.empty()) {
+  if (!report.steps.empty()) {
     text += heading("Rules, in their order, until one reading is left", colors);
-    text += rules_text(report, explanation, settings.width);
+    text += rules_text(report, settings.width);
   }
   return text;
 }

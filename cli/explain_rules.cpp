@@ -18,6 +18,7 @@ namespace cli {
 namespace {
 
 using textio::detection::DetectionReport;
+using textio::detection::RuleStep;
 
 constexpr std::size_t indent = 4;
 
@@ -54,17 +55,17 @@ std::string grouped_by_number(std::vector<std::pair<double, std::size_t>> candid
 }
 
 /// Who was kept or fell at a rule, each with its number; by name as long as they are few.
-std::string with_numbers(DetectionReport const& report, RuleNumbers const& rule, bool const kept) {
+std::string with_numbers(DetectionReport const& report, RuleStep const& rule, bool const kept) {
   constexpr std::size_t few = 6;
   std::vector<std::pair<double, std::size_t>> candidates;
   std::vector<std::string> names;
   for (std::size_t i = 0; i < rule.seen.size(); ++i) {
     std::size_t const candidate = rule.seen[i];
-    if (std::ranges::binary_search(rule.kept, candidate) == kept) {
-      candidates.emplace_back(rule.numbers[i], candidate);
+    if (std::ranges::binary_search(rule.survivors, candidate) == kept) {
+      candidates.emplace_back(rule.measures[i], candidate);
       names.push_back(fmt::format("#{} {}: {}", candidate + 1,
                                   reading_name(*report.candidates[candidate]),
-                                  number_text(rule.numbers[i])));
+                                  number_text(rule.measures[i])));
     }
   }
   return names.size() <= few ? fmt::format("{}", fmt::join(names, ", "))
@@ -101,15 +102,14 @@ std::string paragraph(std::string_view const text, std::size_t const width,
   return std::string(left, ' ') + wrapped(text, left, width);
 }
 
-std::string rules_text(DetectionReport const& report, Explanation const& explanation,
-                       std::size_t const width) {
+std::string rules_text(DetectionReport const& report, std::size_t const width) {
   std::string text;
   std::size_t number = 0;
-  for (RuleNumbers const& rule : explanation.rules) {
+  for (RuleStep const& rule : report.steps) {
     text += fmt::format("  {}. {}: ", ++number, rule.rule) +
             wrapped(rule_text(rule.rule), indent + 1 + rule.rule.size() + 2, width);
-    bool const none_fell = rule.kept.size() == rule.seen.size();
-    text += paragraph(fmt::format("{} of {} stay: {}", rule.kept.size(), rule.seen.size(),
+    bool const none_fell = rule.survivors.size() == rule.seen.size();
+    text += paragraph(fmt::format("{} of {} stay: {}", rule.survivors.size(), rule.seen.size(),
                                   with_numbers(report, rule, true)),
                       width);
     if (!none_fell) {

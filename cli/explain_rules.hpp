@@ -7,7 +7,6 @@
 #include <string>
 #include <string_view>
 
-#include "cli/explanation.hpp"
 #include "text_format_detection/detection/detection_report.hpp"
 
 namespace cli {
@@ -20,6 +19,6 @@ namespace cli {
 
 /// Every rule that ran, in lines of `width` cells.
 [[nodiscard]] std::string rules_text(textio::detection::DetectionReport const& report,
-                                     Explanation const& explanation, std::size_t width);
+                                     std::size_t width);
 
 }  // namespace cli

@@ -72,59 +72,14 @@ std::vector<UntriedCharacter> untried_characters(Answer const& answer, Settings 
   return untried;
 }
 
-/// The number by which a rule compares, from the score that it looks at.
-double number_of(std::string_view const rule, textio::StrategyValuation const& score) {
-  int const others = score.typed_columns - score.numeric_columns - score.date_columns -
-                     score.datetime_columns - score.delimiter_columns;
-  if (rule == "numvariables") {
-    return static_cast<double>(score.num_variables);
-  }
-  if (rule == "dates") {
-    return score.date_columns + score.datetime_columns;
-  }
-  if (rule == "variation") {
-    return score.data_variation;
-  }
-  if (rule == "class_value") {
-    return 10.0 * score.date_columns + 25.0 * score.datetime_columns + 3.0 * score.numeric_columns -
-           score.delimiter_columns + others;
-  }
-  if (rule == "header_lines") {
-    return static_cast<double>(score.header_lines);
-  }
-  if (rule == "non_empty") {
-    return static_cast<double>(score.typed_columns) / static_cast<double>(score.num_variables);
-  }
-  return score.prior_rank;
-}
-
-std::vector<RuleNumbers> rule_numbers(textio::detection::DetectionReport const& report) {
-  std::vector<RuleNumbers> rules;
-  std::vector<std::size_t> seen(report.candidates.size());
-  for (std::size_t i = 0; i < seen.size(); ++i) {
-    seen[i] = i;
-  }
-  for (auto const& step : report.steps) {
-    RuleNumbers& rule = rules.emplace_back();
-    rule.rule = step.rule;
-    rule.seen = seen;
-    for (std::size_t const candidate : seen) {
-      rule.numbers.push_back(number_of(step.rule, report.candidates[candidate]->valuation()));
-    }
-    rule.kept = step.survivors;
-    seen = step.survivors;
-  }
-  return rules;
-}
-
 /// Of those who fell at the last rule the ones nearest to the winner, and how far off they are.
-void add_runners_up(Explanation& explanation, std::size_t const winner) {
-  RuleNumbers const& last = explanation.rules.back();
+void add_runners_up(Explanation& explanation, textio::detection::RuleStep const& last,
+                    std::size_t const winner) {
   auto const place = std::ranges::find(last.seen, winner) - last.seen.begin();
-  double const winning = last.numbers[static_cast<std::size_t>(place)];
+  double const winning = last.measures[static_cast<std::size_t>(place)];
   double nearest = std::numeric_limits<double>::infinity();
   for (std::size_t i = 0; i < last.seen.size(); ++i) {
-    double const distance = std::abs(last.numbers[i] - winning);
+    double const distance = std::abs(last.measures[i] - winning);
     if (last.seen[i] == winner || distance > nearest) {
       continue;
     }
@@ -168,9 +123,8 @@ Explanation explain_answer(Answer const& answer, Settings const& settings) {
   }
   auto const& report = *answer.finding.report;
   explanation.untried = untried_characters(answer, settings);
-  explanation.rules = rule_numbers(report);
-  if (report.winner && !explanation.rules.empty()) {
-    add_runners_up(explanation, *report.winner);
+  if (report.winner && !report.steps.empty()) {
+    add_runners_up(explanation, report.steps.back(), *report.winner);
   }
   explanation.without_winner = find_without_winner(answer, settings);
   return explanation;

@@ -7,7 +7,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <string_view>
 #include <vector>
 
 #include "cli/answer.hpp"
@@ -30,20 +29,11 @@ struct UntriedCharacter {
   NotTried why = NotTried::NeverDelimiter;
 };
 
-/// A rule and the number by which it compares, one for each candidate that it saw.
-struct RuleNumbers {
-  std::string_view rule;
-  std::vector<std::size_t> seen;  ///< positions in the candidate list
-  std::vector<double> numbers;    ///< one for each candidate seen
-  std::vector<std::size_t> kept;
-};
-
 struct Explanation {
   std::vector<UntriedCharacter> untried;  ///< in the order of their code points
-  std::vector<RuleNumbers> rules;
   /// Of the candidates that fell at the last rule, when it left the winner alone, the nearest.
   std::vector<std::size_t> runners_up;
-  /// How far they are off the winner, in the number of the last rule.
+  /// How far they are off the winner, in the measure of the last rule.
   std::optional<double> margin;
   /// The answer if the winner's delimiter could not be one; nothing when nothing won.
   std::optional<Finding> without_winner;

@@ -486,13 +486,13 @@ class Story(Case):
 
     def check_rules(self, story, expected_columns=None):
         for rule in story["rules"]:
-            numbers = [float("inf") if n is None else n for n in rule["numbers"]]
-            kept = {n for n, c in zip(numbers, rule["seen"]) if c in rule["kept"]}
+            numbers = [float("inf") if n is None else n for n in rule["measures"]]
+            kept = {n for n, c in zip(numbers, rule["seen"]) if c in rule["survivors"]}
             allowed = self.best(rule["rule"], numbers, expected_columns)
             self.assertLessEqual(kept, set(allowed), rule)
             if rule["rule"] == "variation":
                 self.assertIn(min(numbers), kept)
-            fallen = set(rule["seen"]) - set(rule["kept"])
+            fallen = set(rule["seen"]) - set(rule["survivors"])
             if rule["rule"] in ("dates", "class_value", "non_empty"):
                 for number, candidate in zip(numbers, rule["seen"]):
                     self.assertTrue(candidate not in fallen or number not in allowed, rule)
@@ -547,7 +547,7 @@ class Story(Case):
         story = self.answer("explain", str(DATA / "orders.csv"))
         self.assertEqual(list(story), EXPLAIN_KEYS)
         self.assertEqual(list(story["sampled"][0]), SAMPLED_KEYS)
-        self.assertEqual(list(story["rules"][0]), ["rule", "seen", "numbers", "kept"])
+        self.assertEqual(list(story["rules"][0]), ["rule", "seen", "measures", "survivors"])
         self.assertEqual(list(story["line_reader"]), SAMPLED_KEYS[:-3])
         self.assertEqual(list(self.answer(str(DATA / "orders.csv"))), DETECT_KEYS)
         self.assertEqual(list(self.answer("missing")),
