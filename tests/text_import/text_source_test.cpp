@@ -6,6 +6,7 @@
 #include <atomic>
 #include <cstdlib>
 #include <new>
+#include <sstream>
 
 #include <gtest/gtest.h>
 #include <malloc.h>
@@ -42,83 +43,35 @@ void operator delete(void* const memory, std::size_t) noexcept {
 namespace textimport {
 namespace {
 
-using namespace std::string_literals;
 using made::outcome;
 using made::read_all;
 
 TEST(sample, is_cut_behind_the_last_whole_line_if_the_text_goes_on) {
-  struct row {
-    std::string text;
-    std::size_t sample_bytes;
-    std::u16string sample;
-    bool goes_on;
-    bool no_line_end;
-  };
-
-  for (row const& row : {
-           row{"", 10, u"", false, false},
-           row{"ab\ncd", 10, u"ab\ncd", false, false},
-           row{"ab\ncd", 5, u"ab\ncd", false, false},
-           row{"ab\ncd", 4, u"ab\n", true, false},
-           row{"ab\ncd", 3, u"ab\n", true, false},
-           row{"ab\ncd", 2, u"ab", true, true},
-           row{"ab\r\ncd", 4, u"ab\r\n", true, false},
-           row{"ab\r\ncd", 3, u"ab\r", true, true},
-           row{"a\rb\rcd", 4, u"a\r", true, false},
-           row{"a\rb\rcd", 5, u"a\rb\r", true, false},
-           row{"a\rb\nc\rd", 7, u"a\rb\nc\rd", false, false},
-           row{"a\nb\xC3\xA4\n", 4, u"a\n", true, false},
-           row{"b\xC3\xA4\n", 2, u"b", true, true},
-           row{"b\xF0\x9F\x98\x80\n", 4, u"b", true, true},
-           row{"b\xF0\x9F\x98\x80\n", 5, u"b\U0001F600", true, true},
-           row{"\xEF\xBB\xBF"
-               "a\nb",
-               5, u"a\n", true, false},
-           row{"\xFF\xFE"
-               "a\0\x3D\xD8\x00\xDE"
-               "b\0"s,
-               6, u"a", true, true},
-           row{"\xFF\xFE"
-               "a\0\n\0b\0"s,
-               7, u"a\n", true, false},
-       }) {
+  for (auto const& row : made::rows_of("sample_cuts.tsv")) {
     for (std::size_t const block : {1U, 2U, 3U, 64U}) {
-      SCOPED_TRACE(testing::PrintToString(row.text) + " " + std::to_string(row.sample_bytes));
+      SCOPED_TRACE(row[0] + " " + row[1]);
       open_options options;
-      options.sample_bytes = row.sample_bytes;
+      options.sample_bytes = std::stoul(row[1]);
       options.block_bytes = block;
-      outcome const read = read_all(row.text, options);
+      outcome const read = read_all(row[0], options);
       EXPECT_EQ(read.error, "");
-      EXPECT_TRUE(read.sample == row.sample) << testing::PrintToString(read.sample);
-      EXPECT_EQ(read.findings.goes_on, row.goes_on);
-      EXPECT_EQ(read.findings.no_line_end, row.no_line_end);
-      EXPECT_EQ(read.findings.bytes_read, std::min(row.sample_bytes, row.text.size()));
-      EXPECT_TRUE(read.whole == read_all(row.text).sample) << "the stream is the whole text";
+      EXPECT_TRUE(read.sample == made::utf16(row[2])) << testing::PrintToString(read.sample);
+      EXPECT_EQ(read.findings.goes_on, row[3] != "ends");
+      EXPECT_EQ(read.findings.no_line_end, row[3] == "no line end");
+      EXPECT_EQ(read.findings.bytes_read, std::min(options.sample_bytes, row[0].size()));
+      EXPECT_TRUE(read.whole == read_all(row[0]).sample) << "the stream is the whole text";
     }
   }
 }
 
 TEST(sample, has_its_line_ends_and_odd_characters_counted) {
-  struct row {
-    std::string text;
-    std::uint64_t lf, crlf, cr, nuls, bad_bytes, end_marks;
-  };
-
-  for (row const& row : {
-           row{"", 0, 0, 0, 0, 0, 0},
-           row{"a\nb\nc", 2, 0, 0, 0, 0, 0},
-           row{"a\r\nb\rc\nd\n\r", 2, 1, 2, 0, 0, 0},
-           row{"\r\r\n\n", 1, 1, 1, 0, 0, 0},
-           row{"aa\0bb\0\n"s, 1, 0, 0, 2, 0, 0},
-           row{"\u00E4\u00F6\u00FC\u00DF\u00C4\n\xFF\xEF\xBF\xBF\n", 2, 0, 0, 0, 1, 1},
-       }) {
-    text_findings const found = read_all(row.text).findings;
-    EXPECT_EQ(found.line_endings.lf, row.lf) << row.text;
-    EXPECT_EQ(found.line_endings.crlf, row.crlf) << row.text;
-    EXPECT_EQ(found.line_endings.cr, row.cr) << row.text;
-    EXPECT_EQ(found.nuls, row.nuls) << row.text;
-    EXPECT_EQ(found.decoding.bad_bytes, row.bad_bytes) << row.text;
-    EXPECT_EQ(found.decoding.replaced_end_marks, row.end_marks) << row.text;
+  for (auto const& row : made::rows_of("counts.tsv")) {
+    text_findings const found = read_all(row[0]).findings;
+    std::ostringstream counts;
+    counts << found.line_endings.lf << ' ' << found.line_endings.crlf << ' '
+           << found.line_endings.cr << ' ' << found.nuls << ' ' << found.decoding.bad_bytes << ' '
+           << found.decoding.replaced_end_marks;
+    EXPECT_EQ(counts.str(), row[1]) << row[0];
   }
 }
 
