@@ -84,8 +84,10 @@ void expect_sound(DetectionReport const& report, std::u16string_view const text)
   }
   std::vector<std::size_t> left(report.candidates.size());
   std::generate(left.begin(), left.end(), [i = std::size_t{0}]() mutable { return i++; });
-  for (auto const& [rule, survivors] : report.steps) {
-    EXPECT_TRUE(std::includes(left.begin(), left.end(), survivors.begin(), survivors.end()));
+  for (auto const& [rule, seen, measures, survivors] : report.steps) {
+    EXPECT_EQ(seen, left) << rule;
+    EXPECT_EQ(measures.size(), seen.size()) << rule;
+    EXPECT_TRUE(std::includes(seen.begin(), seen.end(), survivors.begin(), survivors.end()));
     EXPECT_FALSE(survivors.empty()) << rule;
     left = survivors;
   }

@@ -17,14 +17,8 @@ using textio::detection::BlankMap;
 using Lines = std::vector<std::u16string_view>;
 
 TEST(LineAlignment, LinesAreAligned) {
-  struct AlignedRow {
-    Lines lines;
-    std::size_t header_lines;
-    bool expected;
-  };
-
-  for (auto const& [lines, header_lines, expected] : {
-           AlignedRow{{u"a b ", u"cc d"}, 0, true},
+  for (auto const& [lines, header_lines, expected] : support::Rows<Lines, std::size_t, bool>{
+           {{u"a b ", u"cc d"}, 0, true},
            {{u"a b", u"cc d"}, 0, false},
            {{u"cc d", u"a b"}, 0, false},
            {{u"cc d \t ", u"a  b"}, 0, true},
@@ -43,15 +37,9 @@ TEST(LineAlignment, LinesAreAligned) {
 }
 
 TEST(LineAlignment, EqualLengthHeader) {
-  struct TrimRow {
-    Lines lines;
-    std::size_t header_lines;
-    bool detect;
-    std::size_t expected;
-  };
-
-  for (auto const& [lines, header_lines, detect, expected] : {
-           TrimRow{{u"title", u"ab", u"cd", u"ef"}, 3, true, 1},
+  for (auto const& [lines, header_lines, detect, expected] :
+       support::Rows<Lines, std::size_t, bool, std::size_t>{
+           {{u"title", u"ab", u"cd", u"ef"}, 3, true, 1},
            {{u"title", u"ab", u"cd", u"ef"}, 3, false, 3},
            {{u"gh", u"ab", u"cd"}, 2, true, 0},
            {{u"gh", u"title", u"cd", u"ef"}, 3, true, 2},
@@ -72,16 +60,9 @@ TEST(LineAlignment, EqualLengthHeader) {
 }
 
 TEST(FixedWidthDetection, OverlayOfLines) {
-  struct OverlayRow {
-    Lines lines;
-    std::size_t header_lines;
-    std::size_t num_columns;
-    std::string_view variation;
-    std::string_view widths;
-  };
-
-  for (auto const& [lines, header_lines, num_columns, variation, widths] : {
-           OverlayRow{{u"a   b", u"cc  d"}, 0, 2, "0", "2 3"},
+  for (auto const& [lines, header_lines, num_columns, variation, widths] :
+       support::Rows<Lines, std::size_t, std::size_t, std::string_view, std::string_view>{
+           {{u"a   b", u"cc  d"}, 0, 2, "0", "2 3"},
            {{u"title", u"a   b", u"cc  d"}, 1, 2, "0", "2 3"},
            {{u"  a b ", u"  ccd "}, 0, 1, "0.5", "5 1"},
            {{u"a b c", u"a b c", u"abb c", u"abb c"}, 0, 2, "0.5", "3 2"},
@@ -108,19 +89,15 @@ TEST(FixedWidthDetection, OverlayOfLines) {
 TEST(FixedWidthDetection, ColumnsAreKeptUpToDateWhileBlanksGo) {
   BlankMap map(9);
 
-  struct StepRow {
-    std::u16string_view line;
-    std::size_t num_columns;
-    std::string_view widths;
-  };
-
-  for (auto const& [line, num_columns, widths] : {StepRow{u"         ", 1, "9"},
-                                                  {u"    x", 1, "5 4"},
-                                                  {u"  x", 2, "3 2 4"},
-                                                  {u"   x   x", 2, "5 3 1"},
-                                                  {u"x", 3, "1 4 3 1"},
-                                                  {u"         xx", 4, "1 4 3 3"},
-                                                  {u" x      x ", 2, "5 6"}}) {
+  for (auto const& [line, num_columns, widths] :
+       support::Rows<std::u16string_view, std::size_t, std::string_view>{
+           {u"         ", 1, "9"},
+           {u"    x", 1, "5 4"},
+           {u"  x", 2, "3 2 4"},
+           {u"   x   x", 2, "5 3 1"},
+           {u"x", 3, "1 4 3 1"},
+           {u"         xx", 4, "1 4 3 3"},
+           {u" x      x ", 2, "5 6"}}) {
     map.overlay(line);
     EXPECT_EQ(map.num_columns(), num_columns) << show(line);
     EXPECT_EQ(show(map.column_widths()), widths) << show(line);

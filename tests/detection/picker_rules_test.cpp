@@ -131,8 +131,8 @@ std::string trace(rules::RuleList const& list, Scores const& scores) {
   auto const index = rules::pick_index(list, scores, &steps);
   EXPECT_EQ(rules::pick_index(list, scores), index);
   std::string text;
-  for (auto const& [rule, survivors] : steps) {
-    text += std::string(rule) + " " + support::show(survivors) + ", ";
+  for (auto const& step : steps) {
+    text += std::string(step.rule) + " " + support::show(step.survivors) + ", ";
   }
   return text + "= " + std::to_string(index);
 }
@@ -174,6 +174,31 @@ TEST(Ranking, TraceOfTheRules) {
   none_left.push_back(std::make_unique<rules::Rule const>());
   none_left.push_back(std::make_unique<rules::dates const>());
   EXPECT_EQ(trace(none_left, {level, level}), "none , = -1");
+}
+
+TEST(Ranking, StepsSayWhichNumbersTheRulesLookAt) {
+  StrategyValuation const score{.data_variation = 0.5,
+                                .num_records = 4,
+                                .num_variables = 4,
+                                .typed_columns = 3,
+                                .date_columns = 1,
+                                .datetime_columns = 1,
+                                .prior_rank = 4.0,
+                                .header_lines = 9};
+  std::vector<textio::detection::RuleStep> steps;
+  auto const all = rules::build_rules(false, 3, true);
+  EXPECT_EQ(rules::pick_index(all, {{}, score, score}, &steps), rules::undecided);
+  std::string text;
+  for (auto const& step : steps) {
+    text += std::string(step.rule) + " " + support::show(step.seen) + ":";
+    for (double const measure : step.measures) {
+      text += " " + support::show(measure);
+    }
+    text += "; ";
+  }
+  EXPECT_EQ(text,
+            "numvariables 0 1 2: 1 4 4; dates 0 1 2: 0 2 2; variation 1 2: 0.5 0.5; class_value 1 "
+            "2: 36 36; header_lines 1 2: 9 9; non_empty 1 2: 0.75 0.75; priors_rank 1 2: 4 4; ");
 }
 
 }  // namespace

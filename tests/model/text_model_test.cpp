@@ -66,17 +66,13 @@ TEST(TextModel, MutableFieldNarrowsAndOwns) {
 }
 
 TEST(TextModel, FieldArray) {
-  struct ArrayRow {
-    std::vector<std::size_t> counts;
-    std::vector<std::size_t> ends;
-    std::vector<std::size_t> ends_without_trailing_empty_records;
-  };
-
-  for (auto const& [counts, ends, without] : {ArrayRow{{}, {}, {}},
-                                              {{0}, {0}, {}},
-                                              {{2, 0, 1}, {2, 2, 3}, {2, 2, 3}},
-                                              {{0, 3, 0, 0}, {0, 3, 3, 3}, {0, 3}},
-                                              {{0, 0}, {0, 0}, {}}}) {
+  for (auto const& [counts, ends, without] :
+       support::Rows<std::vector<std::size_t>, std::vector<std::size_t>, std::vector<std::size_t>>{
+           {{}, {}, {}},
+           {{0}, {0}, {}},
+           {{2, 0, 1}, {2, 2, 3}, {2, 2, 3}},
+           {{0, 3, 0, 0}, {0, 3, 3, 3}, {0, 3}},
+           {{0, 0}, {0, 0}, {}}}) {
     FieldArray fields = support::make_records(counts);
     EXPECT_EQ(fields.record_ends(), ends);
     fields.drop_trailing_empty_records();

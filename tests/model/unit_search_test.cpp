@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
 // The search for code units at every place of a text that is longer than any vector.
-#include "text_format_detection/model/unit_search_internal.hpp"
-
 #include <gtest/gtest.h>
+
+#include "text_format_detection/model/unit_search_internal.hpp"
 
 namespace {
 

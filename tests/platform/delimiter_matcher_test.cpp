@@ -22,15 +22,9 @@ std::string matches(Strings const& strings, std::u16string_view const text) {
 }
 
 TEST(DelimiterMatcher, Matches) {
-  struct MatchRow {
-    Strings strings;
-    std::u16string_view text;
-    std::string_view lengths;
-    std::u16string_view first_units;
-  };
-
-  for (auto const& [strings, text, lengths, first_units] : {
-           MatchRow{{u","}, u",a,,", "10110", u","},
+  for (auto const& [strings, text, lengths, first_units] :
+       support::Rows<Strings, std::u16string_view, std::string_view, std::u16string_view>{
+           {{u","}, u",a,,", "10110", u","},
            {{u"\r\n", u"\n", u"\r"}, u"\r\n\n\ra", "211100", u"\r\n"},
            {{u"\r", u"\r\n"}, u"\r\n", "100", u"\r"},
            {{u"ab", u"abc", u"b"}, u"abcab", "210210", u"ab"},

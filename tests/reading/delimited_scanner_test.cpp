@@ -126,20 +126,16 @@ TEST(DelimitedScanner, EmptyLines) {
 }
 
 TEST(DelimitedScanner, Limits) {
-  struct LimitRow {
-    support::ReadLimits limits;
-    std::string_view expected;
-  };
-
   auto const all = textio::unknown_count;
-  for (auto const& [limits, expected] : {LimitRow{{0, all, false}, ""},
-                                         {{all, 0, false}, ""},
-                                         {{1, all, false}, "a"},
-                                         {{2, all, false}, "a / ()"},
-                                         {{2, all, true}, "a / () / b"},
-                                         {{3, all, false}, "a / () / b"},
-                                         {{all, 2, true}, "a / ()"},
-                                         {{all, all, false}, "a / () / b / c / ()"}}) {
+  for (auto const& [limits, expected] : support::Rows<support::ReadLimits, std::string_view>{
+           {{0, all, false}, ""},
+           {{all, 0, false}, ""},
+           {{1, all, false}, "a"},
+           {{2, all, false}, "a / ()"},
+           {{2, all, true}, "a / () / b"},
+           {{3, all, false}, "a / () / b"},
+           {{all, 2, true}, "a / ()"},
+           {{all, all, false}, "a / () / b / c / ()"}}) {
     How const how{{.delimiters = commas, .empty_lines = Empty::Read}, {}, limits};
     EXPECT_EQ(support::read(how, u"a\n\nb\nc\n"), expected) << limits.records << limits.lines;
   }
@@ -152,15 +148,9 @@ TEST(DelimitedScanner, Limits) {
 }
 
 TEST(DelimitedScanner, FindLineStart) {
-  struct StartRow {
-    options how;
-    std::u16string_view text;
-    std::size_t pos;
-    std::size_t expected;
-  };
-
-  for (auto const& [how, text, pos, expected] : {
-           StartRow{{.delimiters = commas}, u" \t,,a", 0, 2},
+  for (auto const& [how, text, pos, expected] :
+       support::Rows<options, std::u16string_view, std::size_t, std::size_t>{
+           {{.delimiters = commas}, u" \t,,a", 0, 2},
            {{.delimiters = commas, .leading_delimiters_rule = Leading::Ignore}, u"  ,,a", 0, 4},
            {{.delimiters = commas, .leading_delimiters_rule = Leading::Ignore}, u"  ,,a", 3, 4},
            {{.delimiters = commas, .leading_delimiters_rule = Leading::Ignore}, u" , a", 0, 2},

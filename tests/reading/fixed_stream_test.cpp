@@ -48,24 +48,19 @@ TEST(FixedStream, AShortTextIsOneBlock) {
 }
 
 TEST(FixedStream, ALongTextIsCutAtATerminator) {
-  struct CutRow {
-    std::vector<Put> puts;
-    Strings terminators;
-    std::size_t expected;
-  };
-
   for (auto const& [puts, terminators, expected] :
-       {CutRow{{}, {u"\n"}, 0},
-        {{}, {}, 0},
-        {{{100, u"\n"}, {limit, u"\n"}}, {u"\n"}, 101},
-        {{{0, u"\n"}}, {u"\n"}, 1},
-        {{{limit - 1, u"\n"}}, {u"\n"}, limit},
-        {{{500, u"\r\n"}}, {u"\r\n"}, 501},
-        {{{500, u"\r\n"}}, {u"\r\n", u"\n", u""}, 502},
-        // begins within the limit and would end behind it
-        {{{500, u"\r\n"}, {limit - 1, u"\r\n"}}, {u"\r\n"}, 501},
-        {{{limit - 2, u"\r\n"}}, {u"\r\n"}, limit - 1},
-        {{{500, u"ab"}, {900, u"a"}}, {u"abc", u"ab"}, 501}}) {
+       support::Rows<std::vector<Put>, Strings, std::size_t>{
+           {{}, {u"\n"}, 0},
+           {{}, {}, 0},
+           {{{100, u"\n"}, {limit, u"\n"}}, {u"\n"}, 101},
+           {{{0, u"\n"}}, {u"\n"}, 1},
+           {{{limit - 1, u"\n"}}, {u"\n"}, limit},
+           {{{500, u"\r\n"}}, {u"\r\n"}, 501},
+           {{{500, u"\r\n"}}, {u"\r\n", u"\n", u""}, 502},
+           // begins within the limit and would end behind it
+           {{{500, u"\r\n"}, {limit - 1, u"\r\n"}}, {u"\r\n"}, 501},
+           {{{limit - 2, u"\r\n"}}, {u"\r\n"}, limit - 1},
+           {{{500, u"ab"}, {900, u"a"}}, {u"abc", u"ab"}, 501}}) {
     TextStream const stream = support::make_stream(make_text(limit + 1, puts), piece);
     EXPECT_EQ(get_fixed_stream(stream, terminators).length(), expected)
         << (puts.empty() ? "" : support::show(puts.front().text)) << ", expected " << expected;

@@ -20,41 +20,34 @@ using textio::reading::SamplingContext;
 using Empty = textio::enums::EmptyLineRule;
 
 TEST(ReadRecords, Summary) {
-  struct SummaryRow {
-    StrategyMode mode;
-    std::u16string_view text;
-    std::size_t record_count;
-    std::size_t line_limit;
-    std::string_view fields;
-    std::vector<std::size_t> summary;  // code units, lines, records stored
-  };
-
   options const how{.delimiters = {u","},
                     .comment_style = {u"/*", u"*/"},
                     .column_widths = {1, 2},
                     .empty_lines = Empty::Read};
   auto const all = unknown_count;
-  for (auto const& row : {
-           SummaryRow{StrategyMode::Delimited, u"a,b\r\n\nc", all, all, "a|b / () / c", {7, 3, 3}},
-           {StrategyMode::Delimited, u"a,b\n\nc\n", 2, all, "a|b / ()", {5, 2, 2}},
-           {StrategyMode::Delimited, u"a\n", all, all, "a / ()", {2, 1, 2}},
-           {StrategyMode::Delimited, u"a\n", 1, all, "a", {2, 1, 1}},
-           {StrategyMode::SpaceAligned, u"a\n/*\n*/\nb\nc", all, 3, "a / b", {10, 4, 2}},
-           {StrategyMode::Delimited, u"/*x*/a\nb", 1, all, "a", {7, 1, 1}},
-           {StrategyMode::Delimited, u"a\uFFFFb", all, all, "a", {1, 1, 1}},
-           {StrategyMode::Delimited, u"", all, all, "", {0, 0, 0}},
-           {StrategyMode::FixedWidth, u"abcd\ne\n", all, all, "a|bc / e", {7, 2, 2}},
-           {StrategyMode::LineReader, u"a,b\nc", all, 1, "a,b", {4, 1, 1}},
-           {static_cast<StrategyMode>(4), u"a", all, all, "", {0, 0, 0}},
+  for (auto const& [mode, text, record_count, line_limit, expected, expected_summary] :
+       support::Rows<StrategyMode, std::u16string_view, std::size_t, std::size_t, std::string_view,
+                     std::string_view>{
+           {StrategyMode::Delimited, u"a,b\r\n\nc", all, all, "a|b / () / c", "7 3 3"},
+           {StrategyMode::Delimited, u"a,b\n\nc\n", 2, all, "a|b / ()", "5 2 2"},
+           {StrategyMode::Delimited, u"a\n", all, all, "a / ()", "2 1 2"},
+           {StrategyMode::Delimited, u"a\n", 1, all, "a", "2 1 1"},
+           {StrategyMode::SpaceAligned, u"a\n/*\n*/\nb\nc", all, 3, "a / b", "10 4 2"},
+           {StrategyMode::Delimited, u"/*x*/a\nb", 1, all, "a", "7 1 1"},
+           {StrategyMode::Delimited, u"a\uFFFFb", all, all, "a", "1 1 1"},
+           {StrategyMode::Delimited, u"", all, all, "", "0 0 0"},
+           {StrategyMode::FixedWidth, u"abcd\ne\n", all, all, "a|bc / e", "7 2 2"},
+           {StrategyMode::LineReader, u"a,b\nc", all, 1, "a,b", "4 1 1"},
+           {static_cast<StrategyMode>(4), u"a", all, all, "", "0 0 0"},
        }) {
     FieldArray fields;
-    auto const summary = textio::read_records(how, row.mode, Field(row.text), row.record_count,
-                                              row.line_limit, fields);
-    EXPECT_EQ(support::show(fields), row.fields) << support::show(row.text);
-    EXPECT_EQ((std::vector<std::size_t>{summary.units_consumed, summary.lines_scanned,
-                                        summary.records_stored}),
-              row.summary)
-        << support::show(row.text);
+    auto const summary =
+        textio::read_records(how, mode, Field(text), record_count, line_limit, fields);
+    EXPECT_EQ(support::show(fields), expected) << support::show(text);
+    EXPECT_EQ(
+        support::show({summary.units_consumed, summary.lines_scanned, summary.records_stored}),
+        expected_summary)
+        << support::show(text);
   }
 }
 
@@ -94,22 +87,16 @@ TEST(ReadRecords, AnEndMarkAsLineEndingIsNotConsumed) {
 }
 
 TEST(SampleStrategy, RecordLimitAndHeaderLines) {
-  struct SampleRow {
-    bool detect;
-    std::size_t header_lines;
-    std::size_t record_limit;
-    std::string_view expected;
-  };
-
   Field const text(u"a\nb\n\nc\nd\ne");
   auto const all = unknown_count;
   for (auto const& [detect, header_lines, record_limit, expected] :
-       {SampleRow{false, 2, 1, "a / b / () / c"},
-        {true, 2, 1, "a"},
-        {false, 0, 2, "a / b"},
-        {false, 1, all, "a / b / () / c / d / e"},
-        {false, all, 1, "a / b / () / c / d / e"},
-        {true, all, 0, ""}}) {
+       support::Rows<bool, std::size_t, std::size_t, std::string_view>{
+           {false, 2, 1, "a / b / () / c"},
+           {true, 2, 1, "a"},
+           {false, 0, 2, "a / b"},
+           {false, 1, all, "a / b / () / c / d / e"},
+           {false, all, 1, "a / b / () / c / d / e"},
+           {true, all, 0, ""}}) {
     options const how{.header_lines = header_lines, .detect_header_lines = detect};
     auto const strategy = std::make_shared<textio::DelimitedStrategy>(
         how, ostrel::io::text::typedetection::TypeAnalyzerOptions{}, u',');

@@ -14,26 +14,15 @@ using Counts = std::vector<std::size_t>;
 namespace strategies = textio::strategies;
 
 TEST(FieldCounts, LeadingLinesOfOneField) {
-  struct SkipRow {
-    Counts counts;
-    std::size_t expected;
-  };
-
-  for (auto const& [counts, expected] :
-       {SkipRow{{}, 0}, {{1, 1, 3, 1}, 2}, {{0, 1}, 0}, {{1, 0, 1}, 1}, {{1, 1}, 2}, {{2}, 0}}) {
+  for (auto const& [counts, expected] : support::Rows<Counts, std::size_t>{
+           {Counts{}, 0}, {{1, 1, 3, 1}, 2}, {{0, 1}, 0}, {{1, 0, 1}, 1}, {{1, 1}, 2}, {{2}, 0}}) {
     EXPECT_EQ(strategies::count_single_field_lines(counts), expected) << show(counts);
   }
 }
 
 TEST(FieldCounts, Typical) {
-  struct TypicalRow {
-    Counts counts;
-    std::size_t skip;
-    std::size_t expected;
-  };
-
-  for (auto const& [counts, skip, expected] : {
-           TypicalRow{{}, 0, 1},
+  for (auto const& [counts, skip, expected] : support::Rows<Counts, std::size_t, std::size_t>{
+           {{}, 0, 1},
            {{3, 3}, 2, 1},
            {{3, 3}, 3, 1},
            {{9, 9, 2}, 2, 2},
@@ -56,40 +45,29 @@ TEST(FieldCounts, Typical) {
 }
 
 TEST(FieldCounts, Deviations) {
-  struct DeviationRow {
-    Counts counts;
-    std::size_t typical;
-    Counts expected;
-  };
-
-  for (auto const& [counts, typical, expected] : {DeviationRow{{1, 5, 5, 5}, 5, {4, 0, 0, 0}},
+  for (auto const& [counts, typical, expected] :
+       support::Rows<Counts, std::size_t, Counts>{{{1, 5, 5, 5}, 5, {4, 0, 0, 0}},
                                                   {{2, 0, 4, 4, 9}, 4, {2, 0, 0}},
                                                   {{9, 4, 0, 4, 0, 1}, 4, {5, 0, 0}},
                                                   {{3, 3}, 4, {}},
-                                                  {{}, 4, {}}}) {
+                                                  {Counts{}, 4, Counts{}}}) {
     EXPECT_EQ(strategies::field_count_deviations(counts, typical), expected) << show(counts);
   }
 }
 
 TEST(FieldCounts, ToLineIndex) {
-  struct IndexRow {
-    std::size_t h;
-    Counts empty_lines;
-    Counts counts;
-    std::size_t expected;
-  };
-
   for (auto const& [h, empty_lines, counts, expected] :
-       {IndexRow{1, {}, {2, 3}, 1},
-        {0, {0}, {0, 3}, 1},
-        {1, {1}, {2, 0, 3}, 2},
-        {1, {2}, {2, 3, 0}, 1},
-        {1, {1, 2, 4}, {2, 0, 0, 3, 0, 3}, 3},
-        {1, {0, 2}, {0, 2, 0, 2}, 3},
-        {0, {}, {1, 1, 2}, 2},
-        {1, {3}, {2, 1, 1, 0, 1}, 5},  // runs off the end
-        {7, {}, {2, 2}, 7},
-        {textio::unknown_count, {0}, {0, 2}, textio::unknown_count}}) {
+       support::Rows<std::size_t, Counts, Counts, std::size_t>{
+           {1, {}, {2, 3}, 1},
+           {0, {0}, {0, 3}, 1},
+           {1, {1}, {2, 0, 3}, 2},
+           {1, {2}, {2, 3, 0}, 1},
+           {1, {1, 2, 4}, {2, 0, 0, 3, 0, 3}, 3},
+           {1, {0, 2}, {0, 2, 0, 2}, 3},
+           {0, {}, {1, 1, 2}, 2},
+           {1, {3}, {2, 1, 1, 0, 1}, 5},  // runs off the end
+           {7, {}, {2, 2}, 7},
+           {textio::unknown_count, {0}, {0, 2}, textio::unknown_count}}) {
     EXPECT_EQ(strategies::to_line_index(h, empty_lines, counts), expected) << show(counts);
   }
 }

@@ -58,12 +58,19 @@ options strict_options() {
 
 TEST(LayoutStrategies, AdjustTheirCopyOfTheOptions) {
   options const strict = strict_options();
+  options plain;
+  plain.consecutive_delimiters_rule = textio::enums::ConsecutiveDelimitersRule::Join;
+  plain.leading_delimiters_rule = textio::enums::LeadingDelimitersRule::Ignore;
+  plain.trailing_delimiters_rule = textio::enums::TrailingDelimitersRule::Ignore;
   TypeOptions const types{.whitespace = u"abc"};
   std::string const rest = " header given 3 rank ";
 
   DelimitedStrategy own_delimiters(strict, types);
   EXPECT_EQ(describe(own_delimiters),
             "mode 0 reader 0 <;> <\\t> [ , ] widths 9 rules 00015" + rest + "inf");
+  DelimitedStrategy one(plain, types, u',');
+  EXPECT_EQ(describe(one), "mode 0 reader 0 <,> [ \\t] widths  rules 11110 header detected " +
+                               std::to_string(unknown_count) + " rank 0");
   DelimitedStrategy list(strict, types, std::vector<std::u16string>{u"\r\n", u",", u";;"});
   EXPECT_EQ(describe(list),
             "mode 0 reader 0 <\\r\\n> <,> <;;> [ ;\\t ] widths 9 rules 00015" + rest + "inf");
@@ -81,32 +88,18 @@ TEST(LayoutStrategies, AdjustTheirCopyOfTheOptions) {
             "header given 0 rank inf");
 }
 
-TEST(LayoutStrategies, PlainRulesStay) {
-  options plain;
-  plain.consecutive_delimiters_rule = textio::enums::ConsecutiveDelimitersRule::Join;
-  plain.leading_delimiters_rule = textio::enums::LeadingDelimitersRule::Ignore;
-  plain.trailing_delimiters_rule = textio::enums::TrailingDelimitersRule::Ignore;
-  DelimitedStrategy strategy(plain, {}, u',');
-  EXPECT_EQ(describe(strategy), "mode 0 reader 0 <,> [ \\t] widths  rules 11110 header detected " +
-                                    std::to_string(unknown_count) + " rank 0");
-}
-
 TEST(LayoutStrategies, PriorRankOfADelimiter) {
-  struct RankRow {
-    std::vector<std::u16string> delimiters;
-    std::string_view rank;
-    bool blank;
-  };
-
-  for (auto const& [delimiters, rank, blank] : {RankRow{{u","}, "0", false},
-                                                {{u"\t"}, "1", false},
-                                                {{u";"}, "2", false},
-                                                {{u" "}, "3", true},
-                                                {{u"|"}, "1.84467e+19", false},
-                                                {{u",", u";"}, "inf", false},
-                                                {{u",,"}, "inf", false},
-                                                {{u"  "}, "inf", false},
-                                                {{}, "inf", false}}) {
+  for (auto const& [delimiters, rank, blank] :
+       support::Rows<std::vector<std::u16string>, std::string_view, bool>{
+           {{u","}, "0", false},
+           {{u"\t"}, "1", false},
+           {{u";"}, "2", false},
+           {{u" "}, "3", true},
+           {{u"|"}, "1.84467e+19", false},
+           {{u",", u";"}, "inf", false},
+           {{u",,"}, "inf", false},
+           {{u"  "}, "inf", false},
+           {{}, "inf", false}}) {
     DelimitedStrategy strategy(options{}, {}, delimiters);
     EXPECT_EQ(show(strategy.valuation().prior_rank), rank);
     EXPECT_EQ(strategy.is_blank_delimited(), blank) << rank;

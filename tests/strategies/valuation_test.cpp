@@ -44,19 +44,14 @@ std::string score(Counts const& counts, Header const& header, char16_t const del
 }
 
 TEST(Valuation, HeaderLinesDetected) {
-  struct ScoreRow {
-    Counts counts;
-    std::string_view expected;
-  };
-
-  for (auto const& [counts, expected] : {
-           ScoreRow{{3, 3, 3, 3}, "3 0 0 0 3 4"},
+  for (auto const& [counts, expected] : support::Rows<Counts, std::string_view>{
+           {{3, 3, 3, 3}, "3 0 0 0 3 4"},
            {{1, 5, 5, 5}, "5 1 0 1 5 4"},
            {{2, 0, 4, 4, 4, 9}, "4 0.5 0 2 9 6"},
            // empty records at the end do not count, those inside do
            {{2, 2, 0, 0}, "2 0 0 0 2 2"},
            {{0, 2, 0, 2, 0}, "2 0 0 1 2 4"},
-           {{}, "1 inf inf unknown 1 0"},
+           {Counts{}, "1 inf inf unknown 1 0"},
            {{0, 0}, "1 inf inf unknown 1 0"},
            // one field throughout
            {{1, 1, 1}, "1 inf inf 0 1 3"},
@@ -76,14 +71,8 @@ TEST(Valuation, HeaderLinesDetected) {
 }
 
 TEST(Valuation, HeaderLinesGiven) {
-  struct GivenRow {
-    Header header;
-    Counts counts;
-    std::string_view expected;
-  };
-
-  for (auto const& [header, counts, expected] : {
-           GivenRow{{false, 1}, {2, 3, 3}, "3 0.333333 0 1 3 3"},
+  for (auto const& [header, counts, expected] : support::Rows<Header, Counts, std::string_view>{
+           {{false, 1}, {2, 3, 3}, "3 0.333333 0 1 3 3"},
            {{false, 0}, {2, 3, 3}, "3 0.333333 0.333333 0 3 3"},
            {{false, 2}, {9, 2, 3, 3, 1}, "3 1.75 0 2 3 5"},
            {{false, 1}, {2, 0, 3, 5, 3}, "3 0.75 0.666667 1 5 5"},
@@ -97,6 +86,7 @@ TEST(Valuation, HeaderLinesGiven) {
            {{false, unknown_count}, {1, 1}, "1 inf inf unknown 1 2"},
            // to be detected, and yet known
            {{true, 2}, {3, 3, 3, 3}, "3 0 0 2 3 4"},
+           {{true, 0}, {1, 5, 9, 5, 9, 5}, "5 2 2 1 9 6"},
            {{true, 9}, {1, 1, 1}, "1 inf inf 0 1 3"},
        }) {
     EXPECT_EQ(score(counts, header), expected) << show(counts);
@@ -106,13 +96,8 @@ TEST(Valuation, HeaderLinesGiven) {
 TEST(Valuation, GetDataVariation) {
   DelimitedStrategy strategy(options{}, {}, u',');
 
-  struct VariationRow {
-    std::size_t header_lines;
-    std::string_view expected;
-  };
-
-  for (auto const& [header_lines, expected] :
-       {VariationRow{0, "inf"}, {1, "1"}, {2, "0.5"}, {4, "inf"}, {5, "inf"}}) {
+  for (auto const& [header_lines, expected] : support::Rows<std::size_t, std::string_view>{
+           {0, "inf"}, {1, "1"}, {2, "0.5"}, {4, "inf"}, {5, "inf"}}) {
     strategy.header_lines(header_lines);
     EXPECT_EQ(show(strategy.get_data_variation({4, 2, 1, 0})), expected) << header_lines;
   }
@@ -153,14 +138,9 @@ std::string types(std::u16string_view const text, Header const& header, TypeOpti
 TEST(InspectDatatypes, WalksFromTheLastRecordUp) {
   Header const none{false, 0};
 
-  struct TypeRow {
-    Header header;
-    std::u16string_view text;
-    std::string_view expected;
-  };
-
-  for (auto const& [header, text, expected] : {
-           TypeRow{none, u"a,b\n1,x\n", "1 2 | 20100"},
+  for (auto const& [header, text, expected] :
+       support::Rows<Header, std::u16string_view, std::string_view>{
+           {none, u"a,b\n1,x\n", "1 2 | 20100"},
            // the first record behind the header lines is not inspected
            {none, u"1,2\n", "5 5 | 00000"},
            {{false, 1}, u"a,b\n1,2\n,x\n", "5 2 | 10000"},

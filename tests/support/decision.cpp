@@ -69,8 +69,8 @@ std::string show_sampled(DetectionReport const& report) {
 
 std::string show_rules(DetectionReport const& report) {
   std::string text;
-  for (auto const& [rule, survivors] : report.steps) {
-    text += (text.empty() ? "" : ", ") + std::string(rule) + " " + show(survivors);
+  for (textio::detection::RuleStep const& step : report.steps) {
+    text += (text.empty() ? "" : ", ") + std::string(step.rule) + " " + show(step.survivors);
   }
   return text;
 }

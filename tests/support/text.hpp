@@ -7,11 +7,16 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <vector>
 
 #include "text_format_detection/model/field_array.hpp"
 
 namespace support {
+
+/// The rows of a table: what goes in and what is expected.
+template <class... Columns>
+using Rows = std::vector<std::tuple<Columns...>>;
 
 /// The text with \n, \r, \t and, for everything else that is not printable ASCII, \uXXXX.
 [[nodiscard]] std::string show(std::u16string_view text);
