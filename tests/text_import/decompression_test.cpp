@@ -58,11 +58,15 @@ TEST_P(packed_text, cut_anywhere_is_a_prefix_and_never_silent) {
   }
 }
 
-TEST_P(packed_text, with_a_flipped_bit_is_never_another_text_in_silence) {
+class checked_text : public packed_text {};
+
+// The writer adds no checksum to zstd, so that nobody can notice there.
+INSTANTIATE_TEST_SUITE_P(decompression, checked_text,
+                         testing::Values("gzip", "bzip2", "xz", "lz4", "zip"),
+                         [](auto const& row) { return std::string(row.param); });
+
+TEST_P(checked_text, with_a_flipped_bit_is_never_another_text_in_silence) {
   std::string const format = GetParam();
-  if (format == "zstd") {
-    GTEST_SKIP() << "the writer adds no checksum, so that nobody can notice";
-  }
   std::string const text = made::table_of(600);
   std::string const bytes = packed(format, text);
   std::size_t const end = format == "zip" ? bytes.find("PK\x01\x02") : bytes.size();

@@ -80,6 +80,8 @@ struct text_findings {
   std::vector<std::string> warnings;
 };
 
+class opened_text;
+
 /// A text file, opened: decompressed, its encoding found, its head decoded to UTF-16.
 ///
 /// An empty file is a text with an empty sample and not an error.
@@ -123,7 +125,7 @@ class TEXT_IMPORT_API text_source {
   /// were a warning at opening are an error here.
   [[nodiscard]] ostrel::io::text::stream::TextStream stream();
 
-  /// What was found out at opening. Reading the stream does not change it.
+  /// What was found out at opening. Reading the stream may add warnings, nothing else.
   [[nodiscard]] text_findings const& findings() const noexcept;
 
   /// The same counts as findings().decoding for everything that was decoded so far, so that they
@@ -134,11 +136,10 @@ class TEXT_IMPORT_API text_source {
   [[nodiscard]] std::string const& path() const noexcept;
 
  private:
-  struct state;
+  explicit text_source(std::shared_ptr<opened_text> opened) noexcept;
 
-  explicit text_source(std::shared_ptr<state> opened) noexcept;
-
-  std::shared_ptr<state> state_;
+  std::shared_ptr<opened_text> opened_;
+  bool is_streamed_ = false;
 };
 
 }  // namespace textimport

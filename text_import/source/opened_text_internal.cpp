@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: MIT
+//
+// The head of the data is read and decoded as a whole, because the encoding is found out from all
+// of it; what follows is decoded block by block when the stream asks for it. A failure behind text
+// is kept until that text was delivered.
+#include "text_import/source/opened_text_internal.hpp"
+
+#include <algorithm>
+#include <utility>
+
+#include "text_import/source/binary_content_internal.hpp"
+#include "text_import/source/decompression_internal.hpp"
+
+namespace textimport {
+namespace {
+
+/// Damage behind text that was delivered does not take that text away.
+bool leaves_text_usable(import_error_kind const kind) {
+  return kind == import_error_kind::DamagedCompression ||
+         kind == import_error_kind::TruncatedCompression ||
+         kind == import_error_kind::WrongChecksum;
+}
+
+/// Appends up to `capacity` bytes of `source` to `bytes` and returns how many; none when it throws.
+std::size_t append_bytes(byte_source& source, std::size_t const capacity, std::string& bytes) {
+  std::size_t const start = bytes.size();
+  bytes.resize(start + capacity);
+  try {
+    bytes.resize(start + source.read(bytes.data() + start, capacity));
+  } catch (...) {
+    bytes.resize(start);
+    throw;
+  }
+  return bytes.size() - start;
+}
+
+/// The length of `text` up to and with its last line ending, 0 without any. A CR at the very end
+/// is none: an LF may follow.
+std::size_t whole_lines(std::u16string_view const text) {
+  if (text.empty()) {
+    return 0;
+  }
+  std::size_t const searched = text.back() == u'\r' ? text.size() - 1 : text.size();
+  return text.substr(0, searched).find_last_of(u"\r\n") + 1;
+}
+
+void count_characters(std::u16string_view const text, text_findings& findings) {
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] > u'\r') {
+      continue;
+    }
+    if (text[i] == u'\0') {
+      ++findings.nuls;
+    } else if (text[i] == u'\n') {
+      ++findings.line_endings.lf;
+    } else if (text.substr(i, 2) == u"\r\n") {
+      ++findings.line_endings.crlf;
+      ++i;
+    } else if (text[i] == u'\r') {
+      ++findings.line_endings.cr;
+    }
+  }
+}
+
+}  // namespace
+
+opened_text::opened_text(std::unique_ptr<byte_source> raw, std::string path,
+                         open_options const& options)
+    : path_(std::move(path)), options_(options) {
+  options_.sample_bytes = std::max<std::size_t>(options_.sample_bytes, 1);
+  options_.block_bytes = std::max<std::size_t>(options_.block_bytes, 1);
+  decompressed_bytes opened = decompress(std::move(raw), path_, options_, findings_.warnings);
+  bytes_ = std::move(opened.bytes);
+  findings_.compression = std::move(opened.compression);
+  findings_.member = std::move(opened.member);
+  std::string head;
+  read_head(head);
+  refuse_binary_format(head, findings_.compression, path_);
+  note_unseen_members();
+  decode_head(head);
+  cut_sample();
+  count_characters(sample(), findings_);
+  undelivered_ = head_text_;
+}
+
+void opened_text::read_head(std::string& head) {
+  try {
+    while (head.size() < options_.sample_bytes && !at_end_) {
+      std::size_t const room = std::min(options_.block_bytes, options_.sample_bytes - head.size());
+      at_end_ = append_bytes(*bytes_, room, head) == 0;
+    }
+    if (!at_end_) {
+      at_end_ = append_bytes(*bytes_, options_.block_bytes, ahead_) == 0;
+    }
+  } catch (import_error const& error) {
+    note_failure(error, !head.empty());
+  }
+  findings_.bytes_read = head.size();
+  findings_.goes_on = !at_end_;
+}
+
+void opened_text::note_failure(import_error const& error, bool const after_text) {
+  if (!after_text || !leaves_text_usable(error.kind())) {
+    throw;  // the error that is being handled
+  }
+  failure_ = std::current_exception();
+  at_end_ = error.kind() == import_error_kind::WrongChecksum;  // the text itself is complete
+  findings_.warnings.push_back(error.message());
+}
+
+void opened_text::note_unseen_members() {
+  bool const is_first_of_many = findings_.compression == "zip" && options_.member.empty();
+  if (is_first_of_many && findings_.goes_on && !failure_) {
+    findings_.warnings.emplace_back(
+        "the first member of the archive is larger than the sample; whether others follow it was "
+        "not looked at");
+  }
+}
+
+void opened_text::decode_head(std::string_view const head) {
+  bool const is_given = !options_.encoding.empty();
+  findings_.encoding = is_given ? given_encoding(options_.encoding, head, path_)
+                                : find_encoding(head, !findings_.goes_on);
+  std::size_t const mark_bytes = findings_.encoding.mark_bytes;
+  decoder_.emplace(findings_.encoding.name, mark_bytes, options_.strict, path_);
+  head_text_.reserve(head.size());
+  decoder_->decode(head.substr(mark_bytes), !findings_.goes_on, head_text_);
+  findings_.decoding = decoder_->counts();
+  if (!is_given) {
+    refuse_control_characters(head_text_, path_);
+  }
+}
+
+void opened_text::cut_sample() {
+  sample_length_ = head_text_.size();
+  if (findings_.goes_on) {
+    std::size_t const length = whole_lines(head_text_);
+    findings_.no_line_end = length == 0;
+    sample_length_ = length == 0 ? head_text_.size() : length;
+  }
+}
+
+std::size_t opened_text::deliver(char16_t* const room, std::size_t const capacity) {
+  while (undelivered_.empty()) {
+    if (failure_) {
+      std::rethrow_exception(failure_);
+    }
+    if (at_end_) {
+      return 0;
+    }
+    decode_next_block();
+  }
+  std::size_t const delivered = undelivered_.copy(room, capacity);
+  undelivered_.remove_prefix(delivered);
+  return delivered;
+}
+
+void opened_text::decode_next_block() {
+  block_text_.clear();
+  try {
+    if (ahead_.empty()) {
+      at_end_ = append_bytes(*bytes_, options_.block_bytes, ahead_) == 0;
+    }
+    std::string const block = std::exchange(ahead_, {});
+    decoder_->decode(block, at_end_, block_text_);
+  } catch (...) {
+    failure_ = std::current_exception();
+  }
+  undelivered_ = block_text_;
+}
+
+}  // namespace textimport
