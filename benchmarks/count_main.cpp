@@ -63,7 +63,8 @@ int run(Operation const& operation, Shape const& shape, std::size_t const length
 void list_all() {
   for (Shape const& shape : shapes()) {
     for (Operation const& operation : operations()) {
-      if (operation.runs_over(shape)) {
+      // One that has a reference of its own is a second view of another.
+      if (operation.runs_over(shape) && !operation.reference) {
         std::printf("%s %.*s\n", operation.name.c_str(), static_cast<int>(shape.name.size()),
                     shape.name.data());
       }
