@@ -20,6 +20,12 @@ namespace {
 
 /// A folder of the test's own, gone at its end.
 class files : public testing::Test {
+ public:
+  files(files const&) = delete;
+  files(files&&) = delete;
+  files& operator=(files const&) = delete;
+  files& operator=(files&&) = delete;
+
  protected:
   files() {
     std::string folder = (std::filesystem::temp_directory_path() / "text_import_XXXXXX").string();
@@ -33,7 +39,7 @@ class files : public testing::Test {
   ~files() override { std::filesystem::remove_all(folder_); }
 
   std::string write(std::string const& name, std::string const& bytes) {
-    std::string const path = folder_ + "/" + name;
+    std::string path = folder_ + "/" + name;
     std::ofstream(path, std::ios::binary) << bytes;
     return path;
   }

@@ -121,7 +121,7 @@ TEST(gzip, reads_what_may_follow_a_member) {
         row{one + std::string(5, '\0') + two, u"a,b\nc,d\n", 0, ""},
         row{one + "other bytes", u"a,b\n", 1, ""},
         row{one + two.substr(0, 3), u"a,b\n", 1, "truncated_compression"},
-        row{one + "\x1F" + "zzz", u"a,b\n", 1, "damaged_compression"}}) {
+        row{one + "\x1Fzzz", u"a,b\n", 1, "damaged_compression"}}) {
     outcome const read = read_all(row.bytes);
     EXPECT_TRUE(read.whole == row.text);
     EXPECT_EQ(read.findings.warnings.size(), row.warnings);
