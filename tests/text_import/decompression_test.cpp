@@ -118,7 +118,7 @@ TEST(gzip, reads_what_may_follow_a_member) {
 
   for (row const& row :
        {row{one + two, u"a,b\nc,d\n", 0, ""}, row{one + std::string(512, '\0'), u"a,b\n", 0, ""},
-        row{one + std::string(5, '\0') + two, u"a,b\nc,d\n", 0, ""},
+        row{one + std::string(5, '\0').append(two), u"a,b\nc,d\n", 0, ""},
         row{one + "other bytes", u"a,b\n", 1, ""},
         row{one + two.substr(0, 3), u"a,b\n", 1, "truncated_compression"},
         row{one + "\x1Fzzz", u"a,b\n", 1, "damaged_compression"}}) {
