@@ -74,9 +74,9 @@ void add_options(CLI::App& app, Arguments& arguments) {
 /// the library leaves among them, a word with a dash is a wrong option.
 std::vector<std::string> operands(std::vector<std::string> words) {
   auto const mark = std::ranges::find(words, "--");
-  for (std::string const& word : std::ranges::subrange(words.begin(), mark)) {
-    if (word.size() > 1 && word.front() == '-') {
-      throw usage_error(fmt::format("unknown option {}{}", word, suggestion(word)));
+  for (auto word = words.begin(); word != mark; ++word) {
+    if (word->size() > 1 && word->front() == '-') {
+      throw usage_error(fmt::format("unknown option {}{}", *word, suggestion(*word)));
     }
   }
   if (mark != words.end()) {

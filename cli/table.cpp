@@ -75,6 +75,7 @@ void add_line(std::string& text, std::string line) {
 std::string aligned_table(std::vector<TableColumn> const& columns, Rows const& rows,
                           TableSpace const space) {
   std::vector<std::size_t> least;
+  least.reserve(columns.size());
   for (TableColumn const& column : columns) {
     least.push_back(column.heading.size());
   }
