@@ -31,7 +31,8 @@ void* operator new(std::size_t const size) {
   return memory;
 }
 
-void operator delete(void* const memory) noexcept {
+// Not inlined: the compiler would take free() for the wrong counterpart of new.
+[[gnu::noinline]] void operator delete(void* const memory) noexcept {
   bytes_in_use -= ::malloc_usable_size(memory);
   std::free(memory);
 }
