@@ -12,7 +12,6 @@
 #include <numeric>
 #include <stdexcept>
 #include <utility>
-#include <vector>
 
 #include <unicode/ucnv.h>
 #include <unicode/ucnv_cb.h>
@@ -28,17 +27,22 @@ namespace {
 constexpr char16_t replacement = 0xFFFD;
 constexpr std::size_t piece_bytes = 1024;
 
-struct bad_run {
-  std::uint64_t offset;
-  std::size_t length;
-};
-
 // A piece on its way through ICU, whose error handler finds it through its context.
 struct piece {
   std::string_view bytes;
   std::uint64_t offset;
   bool is_strict;
-  std::vector<bad_run> bad_runs = {};
+  // What the error handler found. It must not throw through ICU, and therefore not allocate.
+  std::uint64_t bad_bytes = 0;
+  std::array<std::uint64_t, decoding_counts::max_bad_offsets> first_bad_offsets = {};
+  std::size_t num_bad_offsets = 0;
+
+  void note_bad_bytes(std::uint64_t const start, std::uint64_t const length) {
+    bad_bytes += length;
+    if (num_bad_offsets < first_bad_offsets.size()) {
+      first_bad_offsets[num_bad_offsets++] = start;
+    }
+  }
 
   /// The offset behind the bytes that ICU has taken. When it reads bytes again that came before
   /// the piece, these lie in a buffer of its own, and nothing of the piece was taken yet.
@@ -60,8 +64,8 @@ void on_bad_bytes(void const* const context, UConverterToUnicodeArgs* const argu
     return;  // the converter is reset, closed or copied
   }
   auto& current = *static_cast<piece*>(const_cast<void*>(context));
-  auto const bad = static_cast<std::size_t>(length);
-  current.bad_runs.push_back({current.reached(*arguments) - bad, bad});
+  auto const bad = static_cast<std::uint64_t>(length);
+  current.note_bad_bytes(current.reached(*arguments) - bad, bad);
   if (current.is_strict) {
     return;  // the status keeps the error, and the conversion ends here
   }
@@ -91,7 +95,7 @@ struct decoder::converter {
     }
   }
 
-  /// Appends the text of the piece; false when it stopped at the last of its bad runs.
+  /// Appends the text of the piece; false when it stopped at bad bytes.
   bool convert(piece& current, bool const last, std::u16string& text) const {
     UErrorCode status = U_ZERO_ERROR;
     ucnv_setToUCallBack(handle.get(), on_bad_bytes, &current, nullptr, nullptr, &status);
@@ -174,8 +178,9 @@ void decoder::convert(std::string_view const bytes, bool const last, std::u16str
   bool const is_converted = converter_->convert(current, last, text);
   offset_ += bytes.size();
   replace_end_marks(text, start);
-  for (bad_run const& run : current.bad_runs) {
-    note_bad_bytes(run.offset, run.length);
+  counts_.bad_bytes += current.bad_bytes;
+  for (std::size_t i = 0; i < current.num_bad_offsets; ++i) {
+    note_bad_offset(current.first_bad_offsets[i]);
   }
   if (!is_converted) {
     throw_bad_bytes();
@@ -191,8 +196,7 @@ void decoder::replace_end_marks(std::u16string& text, std::size_t const start) {
   }
 }
 
-void decoder::note_bad_bytes(std::uint64_t const offset, std::size_t const length) {
-  counts_.bad_bytes += length;
+void decoder::note_bad_offset(std::uint64_t const offset) {
   if (counts_.first_bad_offsets.size() < decoding_counts::max_bad_offsets) {
     // Behind half a surrogate pair, ICU has already taken a byte of the unit that follows it.
     counts_.first_bad_offsets.push_back(offset - (offset - start_) % converter_->unit_bytes());

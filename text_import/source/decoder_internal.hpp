@@ -37,7 +37,7 @@ class decoder {
   struct converter;
 
   void convert(std::string_view bytes, bool last, std::u16string& text);
-  void note_bad_bytes(std::uint64_t offset, std::size_t length);
+  void note_bad_offset(std::uint64_t offset);
   void replace_end_marks(std::u16string& text, std::size_t start);
   [[noreturn]] void throw_bad_bytes() const;
 

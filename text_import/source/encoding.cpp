@@ -71,8 +71,8 @@ std::optional<std::string> by_nul_pattern(std::string_view const head) {
 }
 
 /// The first lines with bytes that are no ASCII, as many as statistics need, since these take their
-/// time; the first lines at all for a text that has no such bytes. Cut at line feeds, which are
-/// the same in every encoding that comes to statistics.
+/// time; the first lines at all for a text that has no such bytes. Cut at line ends, which are the
+/// same in every encoding that comes to statistics.
 std::string telling_lines(std::string_view head) {
   constexpr std::size_t enough = std::size_t{1} << 14U;
   if (ascii_run(head) == head.size()) {
@@ -80,8 +80,9 @@ std::string telling_lines(std::string_view head) {
   }
   std::string lines;
   while (!head.empty() && lines.size() < enough) {
-    std::string_view const line = head.substr(0, head.find('\n')).substr(0, enough - lines.size());
-    head.remove_prefix(std::min(head.size(), line.size() + 1));
+    std::size_t const end = head.find_first_of("\r\n"sv);
+    std::string_view const line = head.substr(0, end).substr(0, enough - lines.size());
+    head.remove_prefix(line.size() + (line.size() == end ? 1 : 0));
     if (ascii_run(line) != line.size()) {
       lines.append(line) += '\n';
     }
