@@ -124,6 +124,9 @@ TEST(Candidates, Blanks) {
       {padded, {}, "space-aligned replaced, fixed-width 2 2 3 #0, delimited < > less typed h0"},
       {padded, {.layout = Layout::SpaceAligned}, "space-aligned #0, delimited < > less typed"},
       {u"a b\nc d\ne f\n", {}, "space-aligned #0, delimited < > #1"},
+      {u"c d e f g\na b      \n",
+       {.header_lines = 0, .detect_header_lines = false},
+       "space-aligned replaced, fixed-width 1 2 2 2 2 #0, delimited < > less typed h0"},
   });
 }
 
