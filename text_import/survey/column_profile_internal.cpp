@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: MIT
+#include "text_import/survey/column_profile_internal.hpp"
+
+#include <algorithm>
+
+namespace textimport::survey {
+
+namespace {
+
+using view = std::u16string_view;
+
+// Wider lines are profiled up to here.
+constexpr std::size_t max_positions = 4096;
+
+view without_trailing_blanks(view const line) {
+  std::size_t const last = line.find_last_not_of(u" \t");
+  return line.substr(0, last == view::npos ? 0 : last + 1);
+}
+
+}  // namespace
+
+std::size_t column_profile::kind_of(char16_t const c) noexcept {
+  switch (c) {
+    case u' ':
+    case u'\t':
+      return 0;
+    case u'.':
+    case u',':
+      return 1;
+    case u'-':
+    case u'+':
+      return 2;
+    case u':':
+    case u'/':
+      return 3;
+    default:
+      break;
+  }
+  if (c >= u'0' && c <= u'9') {
+    return 4;
+  }
+  bool const is_letter = (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z') || c >= 0x80;
+  return is_letter ? 5 : c == u'|' ? 6 : 7;
+}
+
+column_profile::column_profile(sample_lines const& lines, std::size_t const first,
+                               std::size_t const end) {
+  std::vector<view> filled;
+  std::vector<std::size_t> lengths;
+  for (std::size_t i = first; i < end; ++i) {
+    view const line = without_trailing_blanks(lines[i]);
+    if (!line.empty()) {
+      filled.push_back(line.substr(0, max_positions));
+      lengths.push_back(filled.back().size());
+    }
+  }
+  num_lines_ = filled.size();
+  if (num_lines_ == 0) {
+    return;
+  }
+  std::ranges::sort(lengths);
+  usual_length_ = lengths[(num_lines_ - 1) / 2];
+  counts_.resize(lengths.back());
+  std::size_t equal = 0;
+  for (view const line : filled) {
+    for (std::size_t pos = 0; pos < line.size(); ++pos) {
+      ++counts_[pos][kind_of(line[pos])];
+    }
+    equal += line.size() + 2 >= usual_length_ && line.size() <= usual_length_ + 2 ? 1U : 0U;
+  }
+  equal_lengths_ = static_cast<double>(equal) / static_cast<double>(num_lines_);
+  std::size_t const third = usual_length_ / 3;
+  agreement_ = std::min({agreement_between(0, third), agreement_between(third, 2 * third),
+                         agreement_between(2 * third, usual_length_)});
+}
+
+double column_profile::agreement_between(std::size_t const first,
+                                         std::size_t const end) const noexcept {
+  kind_counts all{};
+  double agreed = 0;
+  double total = 0;
+  for (std::size_t pos = first; pos < end; ++pos) {
+    double here = 0;
+    double squares = 0;
+    for (std::size_t kind = 0; kind < num_kinds; ++kind) {
+      double const count = counts_[pos][kind];
+      all[kind] += counts_[pos][kind];
+      here += count;
+      squares += count * count;
+    }
+    agreed += here > 0 ? squares / here : 0;
+    total += here;
+  }
+  double expected = 0;
+  for (std::uint32_t const count : all) {
+    expected += static_cast<double>(count) * static_cast<double>(count) / std::max(total, 1.0);
+  }
+  return total - expected < 1e-6 * total || total == 0 ? 0 : (agreed - expected) / (total - expected);
+}
+
+bool column_profile::is_blank_at(std::size_t const position) const noexcept {
+  kind_counts const& counts = counts_[position];
+  std::uint32_t filled = 0;
+  for (std::size_t kind = 1; kind < num_kinds; ++kind) {
+    filled += counts[kind];
+  }
+  return filled * 50 <= num_lines_;
+}
+
+bool column_profile::fits(view const line) const noexcept {
+  view const text = without_trailing_blanks(line).substr(0, counts_.size());
+  std::size_t rare = 0;
+  for (std::size_t pos = 0; pos < text.size(); ++pos) {
+    std::size_t const kind = kind_of(text[pos]);
+    rare += kind != 0 && counts_[pos][kind] * 20 < num_lines_ ? 1U : 0U;
+  }
+  return rare * 10 <= text.size();
+}
+
+std::vector<std::size_t> column_profile::widths() const {
+  std::vector<std::size_t> widths;
+  std::size_t start = 0;
+  bool in_column = false;  // a filled position was met since `start`
+  bool in_gap = true;
+  for (std::size_t pos = 0; pos < counts_.size(); ++pos) {
+    bool const is_blank = is_blank_at(pos);
+    if (!is_blank && in_gap && in_column) {
+      widths.push_back(pos - start);
+      start = pos;
+    }
+    in_column = in_column || !is_blank;
+    in_gap = is_blank;
+  }
+  widths.push_back(counts_.size() - start);
+  return widths;
+}
+
+}  // namespace textimport::survey

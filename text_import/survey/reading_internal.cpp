@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: MIT
+#include "text_import/survey/reading_internal.hpp"
+
+#include <algorithm>
+#include <map>
+
+#include "text_import/survey/hypothesis_internal.hpp"
+#include "text_import/survey/value_shape_internal.hpp"
+
+namespace textimport::survey {
+
+namespace {
+
+using textio::Field;
+using textio::FieldArray;
+using textio::enums::StrategyMode;
+
+table_layout layout_of(StrategyMode const mode) noexcept {
+  switch (mode) {
+    case StrategyMode::Delimited:
+      return table_layout::delimited;
+    case StrategyMode::SpaceAligned:
+      return table_layout::space_aligned;
+    case StrategyMode::FixedWidth:
+      return table_layout::fixed_width;
+    case StrategyMode::LineReader:
+      break;
+  }
+  return table_layout::lines;
+}
+
+/// Finds the lines of the records. A record without fields takes the line behind the one before.
+void place_records(reading& r, sample_lines const& lines) {
+  FieldArray const& fields = *r.strategy->field_array();
+  char16_t const* const text = lines.text().data();
+  std::size_t next_line = 0;
+  r.records.reserve(fields.num_records());
+  for (std::size_t i = 0; i < fields.num_records(); ++i) {
+    auto const record = fields.record(i);
+    std::size_t line = next_line;
+    std::size_t last_line = line;
+    if (!record.empty()) {
+      Field const& last = record.back();
+      line = lines.line_at(static_cast<std::size_t>(record.front().data() - text));
+      last_line = lines.line_at(static_cast<std::size_t>(last.data() - text) + last.length());
+      r.longest_record = std::max(r.longest_record, last_line - line + 1);
+    }
+    bool const is_blank = record.empty() || (record.size() == 1 && trimmed(record[0].view()).empty());
+    r.records.push_back({line, is_blank ? 0 : record.size()});
+    r.filled_records += is_blank ? 0U : 1U;
+    next_line = last_line + 1;
+  }
+}
+
+/// The stretch of records with the largest surplus of regular over irregular ones.
+table_block best_block(std::vector<record_place> const& records, std::size_t const columns) {
+  table_block best;
+  table_block current;
+  std::ptrdiff_t best_surplus = 0;
+  for (std::size_t i = 0; i < records.size(); ++i) {
+    std::size_t const count = records[i].num_fields;
+    if (count == columns) {
+      if (current.regular == 0) {
+        current = {i, i, columns, 0, 0};
+      }
+      ++current.regular;
+      current.last = i;
+      auto const surplus = static_cast<std::ptrdiff_t>(current.regular - current.irregular);
+      if (surplus > best_surplus) {
+        best = current;
+        best_surplus = surplus;
+      }
+    } else if (count != 0 && current.regular != 0 && ++current.irregular >= current.regular) {
+      current = {};
+    }
+  }
+  return best;
+}
+
+void find_block(reading& r) {
+  std::map<std::size_t, std::size_t> frequencies;
+  for (record_place const& record : r.records) {
+    ++frequencies[record.num_fields];
+  }
+  for (auto const& [columns, frequency] : frequencies) {
+    if (columns < 2 || frequency < r.block.regular) {
+      continue;
+    }
+    table_block const block = best_block(r.records, columns);
+    if (block.regular - block.irregular >= r.block.regular - r.block.irregular) {
+      r.block = block;
+    }
+  }
+}
+
+/// A line that fits the columns has all of them, whatever its length; another is no record of them.
+void count_fitting_lines(reading& r, sample_lines const& lines, column_profile const& profile) {
+  std::size_t const columns = r.strategy->options().column_widths.size();
+  for (record_place& record : r.records) {
+    if (record.num_fields > 0) {
+      record.num_fields = profile.fits(lines[record.line]) ? columns : 1;
+    }
+  }
+}
+
+double weight_of(value_look const& look) noexcept {
+  if (look.quoted || is_typed(look.shape)) {
+    return 1.0;
+  }
+  switch (look.shape) {
+    case value_shape::missing:
+      return 0.9;
+    case value_shape::word:
+      return 0.8;
+    case value_shape::phrase:
+      return 0.6;
+    default:
+      return 0.0;
+  }
+}
+
+// Enough values to judge a reading by; what the rest would add is not worth its time.
+constexpr std::size_t records_judged = 60;
+constexpr std::size_t columns_judged = 40;
+
+}  // namespace
+
+reading measure_records(std::shared_ptr<textio::GenericStrategy> strategy, sample_lines const& lines,
+                        column_profile const* const profile) {
+  reading r;
+  r.strategy = std::move(strategy);
+  r.layout = layout_of(r.strategy->mode());
+  if (r.layout == table_layout::delimited && !r.strategy->options().delimiters.empty()) {
+    r.delimiter = r.strategy->options().delimiters.front();
+  }
+  r.quote = quote_of(r.strategy->options());
+  place_records(r, lines);
+  if (profile != nullptr) {
+    count_fitting_lines(r, lines, *profile);
+  }
+  find_block(r);
+  if (r.block.regular > 0) {
+    auto const regular = static_cast<double>(r.block.regular);
+    r.coverage = regular / static_cast<double>(r.filled_records);
+    r.regularity = regular / static_cast<double>(r.block.regular + r.block.irregular);
+  }
+  return r;
+}
+
+void measure_values(reading& r) {
+  FieldArray const& fields = *r.strategy->field_array();
+  std::size_t const columns = std::min(r.block.columns, columns_judged);
+  struct column_count {
+    std::size_t filled = 0;
+    std::size_t typed = 0;
+  };
+  std::vector<column_count> counts(columns);
+  double weights = 0;
+  std::size_t broken = 0;
+  std::size_t filled = 0;
+  std::size_t const step = 1 + r.block.regular / records_judged;
+  std::size_t regular = 0;
+  for (std::size_t i = r.block.first; i <= r.block.last && i < r.records.size(); ++i) {
+    if (r.records[i].num_fields != r.block.columns || regular++ % step != 0) {
+      continue;
+    }
+    auto const record = fields.record(i);
+    for (std::size_t column = 0; column < std::min(columns, record.size()); ++column) {
+      value_look const look = look_at(record[column].view(), r.quote);
+      if (look.shape == value_shape::empty) {
+        continue;
+      }
+      ++filled;
+      weights += weight_of(look);
+      broken += look.shape == value_shape::broken ? 1U : 0U;
+      ++counts[column].filled;
+      counts[column].typed += is_typed(look.shape) || look.shape == value_shape::missing ? 1U : 0U;
+    }
+  }
+  std::size_t typed = 0;
+  for (column_count const& count : counts) {
+    typed += count.typed;
+    r.filled_columns += count.filled > 0 ? 1U : 0U;
+    r.typed_columns += count.typed > 0 && count.typed * 5 >= count.filled * 4 ? 1U : 0U;
+  }
+  if (filled > 0) {
+    r.soundness = weights / static_cast<double>(filled);
+    r.broken_share = static_cast<double>(broken) / static_cast<double>(filled);
+    r.typed_share = static_cast<double>(typed) / static_cast<double>(filled);
+  }
+}
+
+}  // namespace textimport::survey

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+//
+// One reading of the sample: what a strategy of the library makes of it, and the survey's own
+// measures of that.
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "text_format_detection/strategies/generic_strategy.hpp"
+#include "text_import/survey/column_profile_internal.hpp"
+#include "text_import/survey/sample_lines_internal.hpp"
+#include "text_import/survey/survey.hpp"
+
+namespace textimport::survey {
+
+/// Where a record stands and how many fields it has; none for a blank or comment line.
+struct record_place {
+  std::size_t line = 0;
+  std::size_t num_fields = 0;
+};
+
+/// The records from the first to the last that have the same number of fields, with as few others
+/// between them as possible: the table in the text.
+struct table_block {
+  std::size_t first = 0;      ///< record
+  std::size_t last = 0;       ///< record, included
+  std::size_t columns = 0;    ///< fields of a regular record
+  std::size_t regular = 0;    ///< records with that many
+  std::size_t irregular = 0;  ///< others inside, blank ones not counted
+};
+
+struct reading {
+  std::shared_ptr<textio::GenericStrategy> strategy;
+  std::size_t hypothesis = 0;
+  table_layout layout = table_layout::lines;
+  std::u16string delimiter;
+  char16_t quote = 0;
+
+  std::vector<record_place> records;
+  std::size_t filled_records = 0;
+  table_block block;
+  double agreement = 0;    ///< of the column profile; fixed widths only
+  double coverage = 0;     ///< regular records, as a share of all filled ones
+  double regularity = 0;   ///< the same inside the block
+  double soundness = 0;    ///< how well the values hold together, 0 to 1
+  double broken_share = 0;  ///< values that a wrong cut seems to have left
+  double typed_share = 0;   ///< values that say more than text
+  std::size_t typed_columns = 0;
+  std::size_t filled_columns = 0;  ///< columns with a value
+  std::size_t longest_record = 1;  ///< in lines
+};
+
+/// The measures of what a strategy of the library sampled. `profile`, for fixed widths only, tells
+/// which lines belong to the table; elsewhere the number of fields does.
+[[nodiscard]] reading measure_records(std::shared_ptr<textio::GenericStrategy> strategy,
+                                      sample_lines const& lines,
+                                      column_profile const* profile = nullptr);
+
+/// Looks at values of the block: soundness and types. Dearer than the measures of records.
+void measure_values(reading& r);
+
+}  // namespace textimport::survey

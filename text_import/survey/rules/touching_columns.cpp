@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+//
+// Blanks separate columns only where every value has one beside it and none inside. Where fixed
+// widths explain the lines, a reading by blanks has to be nearly flawless to stay; and where one
+// such stays, or a usual delimiter explains the text, there is nothing left for fixed widths to
+// explain.
+#include <algorithm>
+
+#include "text_import/survey/rules/delimiter_class_internal.hpp"
+#include "text_import/survey/rules/survey_rule_internal.hpp"
+
+namespace textimport::survey {
+
+namespace {
+
+bool is_flawless(reading const& r) { return r.regularity >= 0.97 && r.broken_share < 0.02; }
+
+kept_readings apply(kept_readings const& kept, std::vector<reading> const& readings) {
+  auto const is_fixed = [&](std::size_t const i) {
+    return class_of(readings[i]) == delimiter_class::none;
+  };
+  if (std::ranges::none_of(kept, is_fixed)) {
+    return kept;
+  }
+  kept_readings left = keep_if(kept, readings, [](reading const& r) {
+    return class_of(r) != delimiter_class::blank || is_flawless(r);
+  });
+  bool const is_explained = std::ranges::any_of(left, [&](std::size_t const i) { return !is_fixed(i); });
+  if (is_explained) {
+    left = keep_if(left, readings, [](reading const& r) { return class_of(r) != delimiter_class::none; });
+  }
+  return left;
+}
+
+}  // namespace
+
+survey_rule const touching_columns{"touching_columns", apply,
+                                   [](reading const& r) { return r.broken_share; }};
+
+}  // namespace textimport::survey

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#include "text_import/survey/sample_lines_internal.hpp"
+
+#include <algorithm>
+
+namespace textimport::survey {
+
+namespace {
+
+/// The first characters of the line endings: where a line may end.
+std::u16string first_units(std::vector<std::u16string> const& line_endings) {
+  std::u16string units;
+  for (std::u16string const& ending : line_endings) {
+    units += ending.substr(0, 1);
+  }
+  return units;
+}
+
+/// The length of the line ending at the start of the text, 0 for none.
+std::size_t ending_length(std::u16string_view const text,
+                          std::vector<std::u16string> const& line_endings) {
+  auto const found = std::ranges::find_if(line_endings, [&](std::u16string const& ending) {
+    return !ending.empty() && text.starts_with(ending);
+  });
+  return found == line_endings.end() ? 0 : found->size();
+}
+
+}  // namespace
+
+sample_lines::sample_lines(std::u16string_view const text,
+                           std::vector<std::u16string> const& line_endings)
+    : text_(text) {
+  std::u16string const firsts = first_units(line_endings);
+  std::size_t start = 0;
+  std::size_t pos = 0;
+  while (start < text.size()) {
+    pos = std::min(text.find_first_of(firsts, pos), text.size());
+    std::size_t const length = ending_length(text.substr(pos), line_endings);
+    if (length == 0 && pos < text.size()) {
+      ++pos;
+      continue;
+    }
+    starts_.push_back(start);
+    ends_.push_back(pos);
+    pos += length;
+    start = pos;
+  }
+}
+
+std::size_t sample_lines::line_at(std::size_t const position) const noexcept {
+  auto const behind = std::ranges::upper_bound(starts_, position);
+  return behind == starts_.begin() ? 0 : static_cast<std::size_t>(behind - starts_.begin()) - 1;
+}
+
+std::u16string_view trimmed(std::u16string_view const text) noexcept {
+  constexpr std::u16string_view blanks = u" \t";
+  std::size_t const first = text.find_first_not_of(blanks);
+  if (first == std::u16string_view::npos) {
+    return {};
+  }
+  return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+}  // namespace textimport::survey

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+//
+// The physical lines of a sample, by number: where they start, what stands in them, and which one a
+// position belongs to.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace textimport::survey {
+
+/// The lines of a text, counted from 0. A line ending behind the last line starts no further one.
+/// Refers to the text, which must outlive it. Positions count code units from the text's start.
+class sample_lines {
+ public:
+  /// `line_endings` as in the parsing options: the first that matches ends the line.
+  sample_lines(std::u16string_view text, std::vector<std::u16string> const& line_endings);
+
+  [[nodiscard]] std::size_t count() const noexcept { return starts_.size(); }
+
+  [[nodiscard]] std::u16string_view text() const noexcept { return text_; }
+
+  /// The line without its ending; it must exist.
+  [[nodiscard]] std::u16string_view operator[](std::size_t const line) const noexcept {
+    return text_.substr(starts_[line], ends_[line] - starts_[line]);
+  }
+
+  /// Where the line starts; the length of the text for the line behind the last one.
+  [[nodiscard]] std::size_t start(std::size_t const line) const noexcept {
+    return line < starts_.size() ? starts_[line] : text_.size();
+  }
+
+  /// The line that holds the position or whose ending does. The text must have a line.
+  [[nodiscard]] std::size_t line_at(std::size_t position) const noexcept;
+
+ private:
+  std::u16string_view text_;
+  std::vector<std::size_t> starts_;
+  std::vector<std::size_t> ends_;
+};
+
+/// The text without blanks (spaces and tabs) at both ends.
+[[nodiscard]] std::u16string_view trimmed(std::u16string_view text) noexcept;
+
+}  // namespace textimport::survey

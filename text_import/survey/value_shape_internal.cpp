@@ -1,0 +1,188 @@
+// SPDX-License-Identifier: MIT
+#include "text_import/survey/value_shape_internal.hpp"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <string>
+
+#include "text_format_detection/platform/datetime.hpp"
+#include "text_import/survey/number_scan_internal.hpp"
+#include "text_import/survey/sample_lines_internal.hpp"
+
+namespace textimport::survey {
+
+namespace {
+
+using view = std::u16string_view;
+
+constexpr bool is_digit(char16_t const c) noexcept { return c >= u'0' && c <= u'9'; }
+
+constexpr char16_t lower(char16_t const c) noexcept {
+  return c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c + 32) : c;
+}
+
+template <std::size_t n>
+bool is_one_of(view const text, std::array<view, n> const& words) noexcept {
+  return std::ranges::any_of(words, [&](view const word) {
+    return std::ranges::equal(text, word, {}, lower, lower);
+  });
+}
+
+bool is_missing_word(view const text) noexcept {
+  static constexpr std::array<view, 14> words{u"na",  u"n/a", u"null", u"nil", u"none", u"nan", u"#n/a",
+                                              u"\\n", u"-",   u"--",   u"?",   u".",    u"*",   u"missing"};
+  return text.size() <= 7 && is_one_of(text, words);
+}
+
+bool is_boolean_word(view const text) noexcept {
+  static constexpr std::array<view, 4> words{u"true", u"false", u"yes", u"no"};
+  return text.size() <= 5 && is_one_of(text, words);
+}
+
+bool is_prefixed_digits(view const text, char16_t const letter, view const digits) noexcept {
+  return text.size() > 2 && text[0] == u'0' && lower(text[1]) == letter &&
+         text.find_first_not_of(digits, 2) == view::npos;
+}
+
+/// Two or more groups of digits joined by ":", a fraction behind the last.
+bool is_duration(view const text) noexcept {
+  std::size_t colons = 0;
+  std::size_t digits = 0;
+  std::size_t pos = !text.empty() && (text[0] == u'-' || text[0] == u'+') ? 1U : 0U;
+  for (; pos < text.size() && (is_digit(text[pos]) || text[pos] == u':'); ++pos) {
+    if (is_digit(text[pos])) {
+      ++digits;
+    } else if (digits == 0 || digits > 3) {
+      return false;
+    } else {
+      ++colons;
+      digits = 0;
+    }
+  }
+  if (colons == 0 || colons > 3 || digits == 0) {
+    return false;
+  }
+  return pos == text.size() || (text[pos] == u'.' && text.find_first_not_of(u"0123456789", pos + 1) == view::npos);
+}
+
+bool may_be_date(view const text) noexcept {
+  return text.size() >= 6 && text.size() <= 48 && std::ranges::any_of(text, is_digit) &&
+         text.find_first_of(u"-/. :T") != view::npos;
+}
+
+/// A real and an imaginary part, or the latter alone.
+bool is_complex(view text) noexcept {
+  if (text.size() < 2 || (text.back() != u'i' && text.back() != u'j')) {
+    return false;
+  }
+  text.remove_suffix(1);
+  std::size_t const sign = text.find_last_of(u"+-");
+  if (sign == view::npos || sign == 0) {
+    return scan_number(text).has_value();
+  }
+  return scan_number(text.substr(0, sign)) && scan_number(text.substr(sign));
+}
+
+/// Numbers that run together, such as "0.0528-1.5E-3" or "12.50.3": the characters of numbers, but
+/// no number, and no row of plain groups such as an address or a version.
+bool is_run_together(view const text) noexcept {
+  if (text.find_first_not_of(u"0123456789.+-EeDd") != view::npos) {
+    return false;
+  }
+  auto const points = std::ranges::count(text, u'.');
+  bool const only_groups = text.find_first_not_of(u"0123456789.") == view::npos;
+  return points >= 2 && !(only_groups && points <= 3);
+}
+
+/// Brackets that open and close in the wrong order or number.
+bool has_odd_brackets(view const text) noexcept {
+  int depth = 0;
+  for (char16_t const c : text) {
+    if (c == u'(' || c == u'[' || c == u'{') {
+      ++depth;
+    } else if ((c == u')' || c == u']' || c == u'}') && --depth < 0) {
+      return true;
+    }
+  }
+  return depth != 0;
+}
+
+/// A character that usually stands between values: never alone inside one. A comma in front of a
+/// blank belongs to a sentence.
+bool has_foreign_delimiter(view const text) noexcept {
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    char16_t const c = text[i];
+    bool const is_last = i + 1 == text.size();
+    if (c == u'\t' || c == u'|' || (c == u';' && !is_last && text[i + 1] != u' ') || (c < 32 && c != u'\n' && c != u'\r')) {
+      return true;
+    }
+    if (c == u',' && (is_last || text[i + 1] != u' ')) {
+      return true;
+    }
+  }
+  return false;
+}
+
+value_shape shape_of_text(view const text) noexcept {
+  bool const is_address = text.find(u"://") != view::npos && text.find(u' ') == view::npos;
+  if (is_address) {
+    return value_shape::word;
+  }
+  if (has_foreign_delimiter(text) || has_odd_brackets(text) || is_run_together(text) ||
+      std::ranges::count(text, u'"') % 2 != 0) {
+    return value_shape::broken;
+  }
+  return text.find(u' ') == view::npos ? value_shape::word : value_shape::phrase;
+}
+
+value_look look_inside(view const text) {
+  value_look look;
+  if (text.empty()) {
+    return look;
+  }
+  if (auto const number = scan_number(text)) {
+    look.shape = number->is_integer ? value_shape::integer : value_shape::real;
+    look.marks = number->marks;
+    look.leading_zeros = number->is_integer && number->leading_zeros;
+  } else if (is_missing_word(text)) {
+    look.shape = value_shape::missing;
+  } else if (is_boolean_word(text)) {
+    look.shape = value_shape::boolean;
+  } else if (is_duration(text)) {
+    look.shape = value_shape::duration;
+  } else if (is_prefixed_digits(text, u'x', u"0123456789abcdefABCDEF")) {
+    look.shape = value_shape::hexadecimal;
+  } else if (is_prefixed_digits(text, u'b', u"01")) {
+    look.shape = value_shape::binary;
+  } else if (is_complex(text)) {
+    look.shape = value_shape::complex_number;
+  } else if (may_be_date(text) && ostrel::io::text::typeconversion::is_datetime(textio::Field(text), {})) {
+    look.shape = text.find(u':') == view::npos ? value_shape::date : value_shape::date_time;
+  } else {
+    look.shape = shape_of_text(text);
+  }
+  return look;
+}
+
+}  // namespace
+
+view unquoted(view const field, char16_t const quote) noexcept {
+  view const text = trimmed(field);
+  bool const is_quoted = quote != 0 && text.size() >= 2 && text.front() == quote && text.back() == quote;
+  return is_quoted ? trimmed(text.substr(1, text.size() - 2)) : text;
+}
+
+value_look look_at(view const field, char16_t const quote) {
+  view const text = trimmed(field);
+  view const inside = unquoted(text, quote);
+  bool const is_quoted = inside.data() != text.data() || (inside.empty() && !text.empty());
+  value_look look = look_inside(inside);
+  look.quoted = is_quoted;
+  if (is_quoted && look.shape == value_shape::broken) {
+    look.shape = value_shape::phrase;  // that is what the quotes are for
+  }
+  return look;
+}
+
+}  // namespace textimport::survey

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+//
+// What a single value looks like to a reader who knows nothing of its column: finer than the
+// library's column types, since a survey weighs values that the library's tests call text.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace textimport::survey {
+
+enum class value_shape : std::uint8_t {
+  empty,
+  missing,  ///< a word that stands for no value: "NA", "null", "-" ...
+  integer,
+  real,
+  complex_number,
+  boolean,
+  date,
+  date_time,
+  duration,
+  hexadecimal,
+  binary,
+  word,    ///< text without blanks
+  phrase,  ///< text with blanks
+  broken,  ///< what a cut at the wrong place leaves: an odd quote, a foreign delimiter, an open
+           ///< bracket, numbers run together
+};
+
+/// The marks inside a number; 0 where there is none.
+struct number_marks {
+  char16_t decimal = 0;
+  char16_t thousands = 0;
+  /// "1,234": the mark, held as `thousands`, may as well be the decimal one.
+  bool either = false;
+};
+
+struct value_look {
+  value_shape shape = value_shape::empty;
+  number_marks marks;          ///< of an integer or a real number
+  bool quoted = false;         ///< stood in quotes, which were taken off
+  bool leading_zeros = false;  ///< an integer with zeros in front: a code rather than a number
+};
+
+/// Looks at one field, blanks and one pair of quotes taken off. `quote` 0: there are no quotes.
+/// Linear in the text.
+[[nodiscard]] value_look look_at(std::u16string_view field, char16_t quote);
+
+/// The field without blanks around it and one pair of quotes.
+[[nodiscard]] std::u16string_view unquoted(std::u16string_view field, char16_t quote) noexcept;
+
+/// True for the shapes that say more than text: numbers, dates, booleans ...
+[[nodiscard]] constexpr bool is_typed(value_shape const shape) noexcept {
+  return shape >= value_shape::integer && shape <= value_shape::binary;
+}
+
+[[nodiscard]] constexpr bool is_number(value_shape const shape) noexcept {
+  return shape >= value_shape::integer && shape <= value_shape::complex_number;
+}
+
+}  // namespace textimport::survey
