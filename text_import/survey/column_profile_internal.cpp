@@ -20,27 +20,18 @@ view without_trailing_blanks(view const line) {
 }  // namespace
 
 std::size_t column_profile::kind_of(char16_t const c) noexcept {
-  switch (c) {
-    case u' ':
-    case u'\t':
-      return 0;
-    case u'.':
-    case u',':
-      return 1;
-    case u'-':
-    case u'+':
-      return 2;
-    case u':':
-    case u'/':
-      return 3;
-    default:
-      break;
+  constexpr view kinds = u" .,-+:/|*";
+  if (c == u'\t') {
+    return 0;
+  }
+  if (std::size_t const kind = kinds.find(c); kind != view::npos) {
+    return kind;
   }
   if (c >= u'0' && c <= u'9') {
-    return 4;
+    return kinds.size();
   }
   bool const is_letter = (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z') || c >= 0x80;
-  return is_letter ? 5 : c == u'|' ? 6 : 7;
+  return kinds.size() + (is_letter ? 1 : 2);
 }
 
 column_profile::column_profile(sample_lines const& lines, std::size_t const first,

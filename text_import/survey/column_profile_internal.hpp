@@ -38,7 +38,7 @@ class column_profile {
   [[nodiscard]] std::vector<std::size_t> widths() const;
 
  private:
-  static constexpr std::size_t num_kinds = 8;
+  static constexpr std::size_t num_kinds = 12;
   using kind_counts = std::array<std::uint32_t, num_kinds>;
 
   [[nodiscard]] static std::size_t kind_of(char16_t c) noexcept;

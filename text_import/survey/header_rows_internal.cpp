@@ -93,30 +93,77 @@ bool is_header_by_types(comparison const& c) {
   return c.conflicts > 0 && c.conflicts * 2 >= c.typed_columns && c.agreements * 3 <= c.conflicts;
 }
 
-/// What speaks for names in a first row of a table without typed columns.
-bool is_header_by_text(cell_table const& table) {
-  std::set<view> names;
-  std::size_t filled = 0;
-  std::size_t recurring = 0;
-  std::size_t long_cells = 0;
-  std::size_t with_digits = 0;
+/// Years or other whole numbers in a row, each one more than the one before it: they name columns.
+bool counts_up(cell_table const& table, std::size_t const row) {
+  std::size_t steps = 0;
+  std::optional<long> last;
   for (std::size_t column = 0; column < table.columns(); ++column) {
-    auto const& cell = table.at(0, column);
-    if (cell.text.empty()) {
-      continue;
+    auto const& cell = table.at(row, column);
+    bool const is_short_integer = cell.look.shape == value_shape::integer && cell.text.size() <= 6;
+    std::optional<long> number;
+    if (is_short_integer) {
+      number = 0;
+      for (char16_t const c : cell.text) {
+        number = c >= u'0' && c <= u'9' ? *number * 10 + (c - u'0') : *number;
+      }
     }
-    ++filled;
-    names.insert(cell.text);
-    bool recurs = false;
-    for (std::size_t row = 1; row < table.rows() && !recurs; ++row) {
-      recurs = table.at(row, column).text == cell.text;
+    if (last && number) {
+      if (*number != *last + 1) {
+        return false;
+      }
+      ++steps;
     }
-    recurring += recurs ? 1U : 0U;
-    long_cells += cell.text.size() > 40 ? 1U : 0U;
-    with_digits += is_typed(cell.look.shape) || cell.text.find_first_of(u"0123456789") != view::npos ? 1U : 0U;
+    last = number;
   }
-  return filled == table.columns() && names.size() == filled && recurring == 0 && long_cells == 0 &&
-         with_digits * 2 < filled;
+  return steps >= 2;
+}
+
+/// A text that is no name: a value such as "12 km", an address, a sentence.
+bool is_like_data(view const text) {
+  char16_t const first = text.front();
+  return (first >= u'0' && first <= u'9') || text.size() > 40 || text.find(u"://") != view::npos;
+}
+
+/// What speaks for names in a row of a table without typed columns: no cell is empty, twice there,
+/// found again further down, or like data.
+bool is_header_by_text(cell_table const& table, std::size_t const row) {
+  std::set<view> names;
+  for (std::size_t column = 0; column < table.columns(); ++column) {
+    auto const& cell = table.at(row, column);
+    bool const is_name = !cell.text.empty() && !is_typed(cell.look.shape) && !is_like_data(cell.text);
+    if (!is_name || !names.insert(cell.text).second) {
+      return false;
+    }
+    for (std::size_t below = row + 1; below < table.rows(); ++below) {
+      if (table.at(below, column).text == cell.text) {
+        return false;
+      }
+    }
+  }
+  return true;
+}
+
+std::size_t num_filled(cell_table const& table, std::size_t const row) {
+  std::size_t filled = 0;
+  for (std::size_t column = 0; column < table.columns(); ++column) {
+    filled += table.at(row, column).text.empty() ? 0U : 1U;
+  }
+  return filled;
+}
+
+/// The first row that is no title: spreadsheets write a title as a row with one filled cell.
+std::size_t skip_titles(cell_table const& table) {
+  std::vector<std::size_t> filled;
+  for (std::size_t row = 0; row < table.rows(); ++row) {
+    filled.push_back(num_filled(table, row));
+  }
+  std::vector<std::size_t> sorted = filled;
+  std::ranges::nth_element(sorted, sorted.begin() + static_cast<std::ptrdiff_t>(sorted.size() / 2));
+  if (sorted[sorted.size() / 2] < 3) {
+    return 0;
+  }
+  auto const first = std::ranges::find_if(filled, [](std::size_t const count) { return count > 1; });
+  return static_cast<std::size_t>(first - filled.begin());
 }
 
 }  // namespace
@@ -127,17 +174,19 @@ header_rows find_header_rows(reading const& r) {
   if (table.rows() < 2) {
     return found;
   }
+  std::size_t const first = skip_titles(table);
+  found.first_data = table.record(std::min(first, table.rows() - 1));
   bool any_typed = false;
   std::optional<std::size_t> last_header;
-  for (std::size_t row = 0; row < std::min(candidates, table.rows() - 1); ++row) {
+  for (std::size_t row = first; row < std::min(first + candidates, table.rows() - 1); ++row) {
     comparison const c = compare_with_rest(table, row);
     any_typed = any_typed || c.typed_columns > 0;
-    if (is_header_by_types(c)) {
+    if (is_header_by_types(c) || (row == first && counts_up(table, row) && !counts_up(table, row + 1))) {
       last_header = row;
     }
   }
-  if (!any_typed && is_header_by_text(table)) {
-    last_header = 0;
+  if (!any_typed && first + 1 < table.rows() && is_header_by_text(table, first)) {
+    last_header = first;
   }
   if (last_header) {
     found.names = table.record(*last_header);

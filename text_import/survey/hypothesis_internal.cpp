@@ -21,22 +21,39 @@ std::size_t num_looked_at(sample_lines const& lines) {
   return std::min(lines.count(), lines_looked_at);
 }
 
-/// The marker that starts most lines, unless they are most of all lines.
-std::optional<view> find_comment_marker(sample_lines const& lines) {
-  std::array<std::size_t, line_markers.size()> counts{};
-  std::size_t filled = 0;
+struct marked_lines {
+  std::size_t count = 0;
+  std::size_t at_top = 0;  ///< those in front of the first line without the marker
+};
+
+/// The lines that start with a marker.
+marked_lines count_marked(sample_lines const& lines, view const marker) {
+  marked_lines marked;
+  bool is_top = true;
   for (std::size_t i = 0; i < num_looked_at(lines); ++i) {
-    view const line = lines[i];
-    filled += trimmed(line).empty() ? 0U : 1U;
-    for (std::size_t m = 0; m < line_markers.size(); ++m) {
-      counts[m] += line.starts_with(line_markers[m]) ? 1U : 0U;
+    if (lines[i].starts_with(marker)) {
+      ++marked.count;
+      marked.at_top += is_top ? 1U : 0U;
+    } else {
+      is_top = is_top && trimmed(lines[i]).empty();
     }
   }
-  auto const best = std::ranges::max_element(counts);
-  if (*best == 0 || *best * 10 > filled * 9) {
-    return std::nullopt;
+  return marked;
+}
+
+/// The marker that starts most lines. Behind the top of the text, comments are the exception.
+std::optional<view> find_comment_marker(sample_lines const& lines) {
+  std::optional<view> best;
+  std::size_t most = 0;
+  for (view const marker : line_markers) {
+    marked_lines const marked = count_marked(lines, marker);
+    std::size_t const others = num_looked_at(lines) - marked.count;
+    if (marked.count > most && others >= 2 && marked.count - marked.at_top <= others / 2) {
+      best = marker;
+      most = marked.count;
+    }
   }
-  return line_markers[static_cast<std::size_t>(best - counts.begin())];
+  return best;
 }
 
 /// Quotes that an odd number of lines hold an odd number of: one of them does not close where

@@ -32,6 +32,17 @@ std::vector<reading> read_all(std::vector<hypothesis> const& hypotheses, sample_
       readings.push_back(measure_records(sampled.strategy, lines));
       readings.back().hypothesis = h;
     }
+    for (char16_t const delimiter : std::u16string_view(u",;\t|")) {
+      bool const was_sampled = std::ranges::any_of(report.sampled, [&](auto const& sampled) {
+        auto const& delimiters = sampled.strategy->options().delimiters;
+        return sampled.strategy->mode() == textio::enums::StrategyMode::Delimited && delimiters.size() == 1 && delimiters.front() == std::u16string(1, delimiter);
+      });
+      if (was_sampled || lines.text().find(delimiter) == std::u16string_view::npos) continue;
+      auto const strategy = std::make_shared<textio::DelimitedStrategy>(hypotheses[h].parsing, options.types, delimiter);
+      textio::evaluate_strategy(strategy, textio::Field(lines.text()), options.records);
+      readings.push_back(measure_records(strategy, lines));
+      readings.back().hypothesis = h;
+    }
   }
   return readings;
 }
@@ -48,6 +59,7 @@ std::optional<reading> read_fixed_width(sample_lines const& lines, survey_option
   std::size_t const n = std::min<std::size_t>(lines.count(), 2000);
   for (std::size_t const first : {std::size_t{0}, n / 2, n * 2 / 3}) {
     column_profile profile(lines, first, n);
+    if (std::getenv("DUMP")) std::printf("   P %zu n%zu agr %.3f eq %.3f\n", first, profile.num_lines(), profile.agreement(), profile.equal_lengths());
     bool const columnar = profile.num_lines() >= 4 && (profile.agreement() >= 0.5 || (profile.agreement() >= 0.42 && profile.equal_lengths() >= 0.5) || (profile.agreement() >= 0.25 && profile.equal_lengths() >= 0.85));
     if (columnar && (!best || profile.agreement() > best->agreement() + 0.1)) { best = std::move(profile); }
   }
@@ -81,7 +93,9 @@ survey_findings survey_text(textio::Field const& sample, survey_options const& o
   for (std::size_t i=0;i<readings.size();++i) { auto&r=readings[i];
     if (dump) std::printf("   h%zu %d '%s' k%zu cov %.3f reg %.3f sound %.3f broken %.3f typed %.3f tc %zu rec %zu..%zu of %zu agr %.2f fell %s\n", r.hypothesis, int(r.layout), narrow(r.delimiter).c_str(), r.block.columns, r.coverage, r.regularity, r.soundness, r.broken_share, r.typed_share, r.typed_columns, r.block.first, r.block.last, r.records.size(), r.agreement, std::string(fell[i]).c_str()); }
   if (!kept.empty()) { auto& r=readings[kept[0]];
-    f.layout = r.layout; f.delimiter=r.delimiter; f.num_columns=r.block.columns; f.data_starts_at = r.records[find_header_rows(r).first_data].line; f.strategy = r.strategy;  }
+    f.layout = r.layout; f.delimiter=r.delimiter; f.num_columns=r.block.columns; f.data_starts_at = r.records[find_header_rows(r).first_data].line; f.strategy = r.strategy; f.winner = kept[0]; f.confidence = 0.9; f.reason = "one reading holds"; f.quote = r.quote; f.columns.resize(f.num_columns); }
+  else { auto line_reader = std::make_shared<textio::LineReaderStrategy>(options.parsing, options.types); textio::evaluate_strategy(line_reader, textio::Field(text), options.records); f.strategy = line_reader; f.columns.resize(1); f.reason = "no reading holds: each line is a value"; }
+  for (std::size_t i=0;i<readings.size();++i) f.candidates.push_back({hypotheses[readings[i].hypothesis].name, readings[i].layout, readings[i].delimiter, readings[i].block.columns, readings[i].coverage, readings[i].soundness, fell[i], 0});
   return f;
 }
 

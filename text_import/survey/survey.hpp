@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The survey: asks the library more than once about a sample, weighs the answers, and says what is
-// a finding and what is not decided.
+// The survey: asks the library more than once about a sample, weighs the readings by named rules,
+// and tells a finding from what is not decided.
 #pragma once
 
 #include <cstddef>
@@ -17,38 +17,120 @@
 #include "text_format_detection/platform/type_analyzer_options.hpp"
 #include "text_format_detection/strategies/generic_strategy.hpp"
 #include "text_import/export.hpp"
+#include "text_import/survey/column_findings.hpp"
 
 namespace textimport {
 
-enum class table_layout : std::uint8_t { delimited, space_aligned, fixed_width, lines };
+/// How a text is laid out.
+enum class table_layout : std::uint8_t {
+  delimited,
+  space_aligned,
+  fixed_width,
+  lines,  ///< each line is one value: prose, logs, a list
+};
 
-/// Which parts the caller gives: they are never changed.
+/// What a line is that holds no data.
+enum class line_role : std::uint8_t {
+  title,      ///< text above the data: a title, notes, settings
+  comment,    ///< starts with the comment marker
+  blank,      ///< empty, or blanks only
+  names,      ///< the names of the columns
+  units,      ///< between the names and the data: units, types, a second line of names
+  ruler,      ///< a line of dashes or the like
+  separator,  ///< "sep=;", with which a spreadsheet names its delimiter
+  footer,     ///< text below the data
+};
+
+/// The word for a layout or a role in machine-readable output: "space-aligned", "names" ...
+[[nodiscard]] TEXT_IMPORT_API char const* name_of(table_layout layout) noexcept;
+[[nodiscard]] TEXT_IMPORT_API char const* name_of(line_role role) noexcept;
+
+/// A line that holds no data.
+struct noted_line {
+  std::size_t line = 0;  ///< physical line, from 0
+  line_role role = line_role::title;
+};
+
+/// Which parts the caller gives in the options: these stay as they are, and the rest is surveyed
+/// around them.
 struct given_parts {
-  bool delimiter = false;
-  bool layout = false;
-  bool quote = false;
-  bool comment = false;
-  bool decimal_mark = false;
-  bool header_lines = false;
+  bool delimiter = false;     ///< options::delimiters
+  bool layout = false;        ///< survey_options::layout
+  bool widths = false;        ///< options::column_widths
+  bool quote = false;         ///< options::quote_characters
+  bool comment = false;       ///< options::comment_style
+  bool decimal_mark = false;  ///< options::decimal_separator
+  bool header_lines = false;  ///< options::header_lines, in physical lines
 };
 
 struct survey_options {
+  /// The parts that are not given are where the survey starts from: quotes `"`, no comments.
   textio::parser::options parsing;
   ostrel::io::text::typedetection::TypeAnalyzerOptions types;
   given_parts given;
+  table_layout layout = table_layout::lines;  ///< read when it is given
+  /// How many records are sampled; `textio::unknown_count` for all.
   std::size_t records = 250;
+  /// True when the text goes on behind the sample: then its end says nothing of a footer.
+  bool goes_on = false;
+  /// The name of the file's encoding, for boundaries in bytes; empty: unknown.
+  std::string encoding;
+};
+
+/// One reading that was weighed.
+struct survey_candidate {
+  std::string hypothesis;  ///< what was assumed: "as given", "comment lines" ...
+  table_layout layout = table_layout::lines;
+  std::u16string delimiter;  ///< of delimited readings
+  std::size_t num_columns = 0;
+  double coverage = 0;   ///< the share of the text's records that have that many fields
+  double soundness = 0;  ///< how well its values hold together, 0 to 1
+  /// The rule at which it fell, a constant; empty for the answer.
+  std::string_view fell_at;
+  double measure = 0;  ///< the number that this rule looks at
 };
 
 struct survey_findings {
+  /// False when the answer is a guess: the caller should ask.
   bool decided = true;
-  table_layout layout = table_layout::lines;
-  std::u16string delimiter;
-  std::size_t num_columns = 1;
-  std::size_t data_starts_at = 0;
+  /// Why, in words: "given", "one reading holds", "no reading holds: each line is a value" ...
+  std::string reason;
+  /// From 0 to 1: of the answers with this value about that share is right.
   double confidence = 0;
+
+  table_layout layout = table_layout::lines;
+  std::u16string delimiter;  ///< of a delimited text, else empty
+  char16_t quote = 0;        ///< 0: no field is quoted
+  std::vector<std::u16string> comment_style;
+  char16_t decimal_mark = u'.';
+  std::size_t num_columns = 1;
+
+  /// The physical line, from 0, of the first data; the number of lines when there are none.
+  std::size_t data_starts_at = 0;
+  /// The line behind the last data; empty when the sample ends before the data do.
+  std::optional<std::size_t> data_ends_at;
+  bool has_names = false;
+  /// The lines above and below the data, ascending. Comment and blank lines between data are not
+  /// listed.
+  std::vector<noted_line> lines;
+  /// One for each column, left to right; one for a text that is read line by line.
+  std::vector<column_findings> columns;
+
+  /// Reads the whole text: sampled and scored by the library, its fields views into the sample.
   std::shared_ptr<textio::GenericStrategy> strategy;
+
+  /// Every reading that was weighed, in the order in which they were made.
+  std::vector<survey_candidate> candidates;
+  /// The answer's place among them; empty when each line is a value.
+  std::optional<std::size_t> winner;
+  /// The reading that would be the answer if there were no winner, and how sure that would be.
+  std::optional<std::size_t> runner_up;
+  double runner_up_confidence = 0;
 };
 
+/// Surveys a sample, which ends at its length or at its first U+FFFF and outlives the findings.
+/// Deterministic. Takes time linear in the sample for each hypothesis, of which there are at most
+/// six, and for each candidate of the library. Throws std::bad_alloc.
 [[nodiscard]] TEXT_IMPORT_API survey_findings survey_text(textio::Field const& sample,
                                                           survey_options const& options);
 

@@ -129,7 +129,7 @@ value_shape shape_of_text(view const text) noexcept {
   if (is_address) {
     return value_shape::word;
   }
-  if (has_foreign_delimiter(text) || has_odd_brackets(text) || is_run_together(text) ||
+  if (text.find(u"   ") != view::npos || has_foreign_delimiter(text) || has_odd_brackets(text) || is_run_together(text) ||
       std::ranges::count(text, u'"') % 2 != 0) {
     return value_shape::broken;
   }

@@ -2,6 +2,9 @@
 //
 // "name: value" line after line is a settings file or a record written downwards, not a table of
 // two columns, when blanks are all that splits it.
+#include <algorithm>
+#include <span>
+
 #include "text_import/survey/rules/delimiter_class_internal.hpp"
 #include "text_import/survey/rules/survey_rule_internal.hpp"
 
@@ -9,17 +12,31 @@ namespace textimport::survey {
 
 namespace {
 
+/// Whether one of the first two values ends in a colon that only a blank follows, or the second
+/// begins with an equals sign.
+bool is_key_and_value(reading const& r, std::span<textio::Field const> const record) {
+  std::size_t filled = 0;
+  for (textio::Field const& field : record) {
+    std::u16string_view const text = trimmed(field.view());
+    if (text.empty()) {
+      continue;
+    }
+    bool const ends_key = text.back() == u':' && class_of(r) == delimiter_class::blank;
+    if (++filled > 2 || ends_key || (filled == 2 && text.front() == u'=')) {
+      return filled <= 2;
+    }
+  }
+  return false;
+}
+
 bool has_real_columns(reading const& r) {
-  if (class_of(r) != delimiter_class::blank || r.block.columns > 3) {
+  if (r.layout == table_layout::fixed_width) {
     return true;
   }
   auto const& fields = *r.strategy->field_array();
   std::size_t keys = 0;
   for (std::size_t i = r.block.first; i <= r.block.last; ++i) {
-    for (textio::Field const& field : fields.record(i).first(std::min<std::size_t>(2, fields.num_fields(i)))) {
-      std::u16string_view const text = field.view();
-      keys += !text.empty() && (text.back() == u':' || text == u"=") ? 1U : 0U;
-    }
+    keys += is_key_and_value(r, fields.record(i)) ? 1U : 0U;
   }
   return keys * 2 < r.block.regular;
 }

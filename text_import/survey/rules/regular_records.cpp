@@ -15,12 +15,20 @@ bool is_flawless_end(reading const& r) {
   return reaches_end && r.regularity >= 0.95 && r.block.regular >= 2 && r.typed_columns > 0;
 }
 
+bool is_regular_in_blanks(reading const& r) {
+  if (r.regularity < 0.9 || (r.filled_records == 1 && r.typed_columns < 2)) {
+    return false;
+  }
+  bool const is_data = r.typed_share >= 0.6;
+  return r.coverage >= 0.8 || (is_data && (r.coverage >= 0.5 || is_flawless_end(r)));
+}
+
 bool is_regular(reading const& r) {
   switch (class_of(r)) {
     case delimiter_class::usual:
       return r.regularity >= 0.6 && (r.coverage >= 0.45 || is_flawless_end(r));
     case delimiter_class::blank:
-      return r.regularity >= 0.9 && (r.coverage >= 0.8 || r.typed_share >= 0.6) && (r.filled_records > 1 || r.typed_columns > 1);
+      return is_regular_in_blanks(r);
     case delimiter_class::rare:
       return r.coverage >= 0.9;
     case delimiter_class::none:
