@@ -77,19 +77,33 @@ table_block best_block(std::vector<record_place> const& records, std::size_t con
   return best;
 }
 
-void find_block(reading& r) {
+/// The best block of all numbers of fields; of those that reach the end of the records, where
+/// `at_end` asks for that.
+table_block find_block(std::vector<record_place> const& records, bool const at_end) {
   std::map<std::size_t, std::size_t> frequencies;
-  for (record_place const& record : r.records) {
+  for (record_place const& record : records) {
     ++frequencies[record.num_fields];
   }
+  table_block best;
   for (auto const& [columns, frequency] : frequencies) {
-    if (columns < 2 || frequency < r.block.regular) {
+    if (columns < 2 || frequency < best.regular) {
       continue;
     }
-    table_block const block = best_block(r.records, columns);
-    if (block.regular - block.irregular >= r.block.regular - r.block.irregular) {
-      r.block = block;
+    table_block const block = best_block(records, columns);
+    bool const is_candidate = !at_end || block.last + 1 == records.size();
+    if (is_candidate && block.regular - block.irregular >= best.regular - best.irregular) {
+      best = block;
     }
+  }
+  return best;
+}
+
+void set_block(reading& r, table_block const& block) {
+  r.block = block;
+  if (block.regular > 0) {
+    auto const regular = static_cast<double>(block.regular);
+    r.coverage = regular / static_cast<double>(r.filled_records);
+    r.regularity = regular / static_cast<double>(block.regular + block.irregular);
   }
 }
 
@@ -138,13 +152,18 @@ reading measure_records(std::shared_ptr<textio::GenericStrategy> strategy, sampl
   if (profile != nullptr) {
     count_fitting_lines(r, lines, *profile);
   }
-  find_block(r);
-  if (r.block.regular > 0) {
-    auto const regular = static_cast<double>(r.block.regular);
-    r.coverage = regular / static_cast<double>(r.filled_records);
-    r.regularity = regular / static_cast<double>(r.block.regular + r.block.irregular);
-  }
+  set_block(r, find_block(r.records, false));
   return r;
+}
+
+std::optional<reading> measure_last_block(reading const& r) {
+  table_block const block = find_block(r.records, true);
+  if (block.regular < 2 || block.columns == r.block.columns) {
+    return std::nullopt;
+  }
+  reading last = r;
+  set_block(last, block);
+  return last;
 }
 
 void measure_values(reading& r) {
@@ -160,6 +179,7 @@ void measure_values(reading& r) {
   std::size_t filled = 0;
   std::size_t const step = 1 + r.block.regular / records_judged;
   std::size_t regular = 0;
+  std::size_t looked_at = 0;
   for (std::size_t i = r.block.first; i <= r.block.last && i < r.records.size(); ++i) {
     if (r.records[i].num_fields != r.block.columns || regular++ % step != 0) {
       continue;
@@ -167,6 +187,7 @@ void measure_values(reading& r) {
     auto const record = fields.record(i);
     for (std::size_t column = 0; column < std::min(columns, record.size()); ++column) {
       value_look const look = look_at(record[column].view(), r.quote);
+      ++looked_at;
       if (look.shape == value_shape::empty) {
         continue;
       }
@@ -184,6 +205,7 @@ void measure_values(reading& r) {
     r.typed_columns += count.typed > 0 && count.typed * 5 >= count.filled * 4 ? 1U : 0U;
   }
   if (filled > 0) {
+    r.empty_share = 1 - static_cast<double>(filled) / static_cast<double>(looked_at);
     r.soundness = weights / static_cast<double>(filled);
     r.broken_share = static_cast<double>(broken) / static_cast<double>(filled);
     r.typed_share = static_cast<double>(typed) / static_cast<double>(filled);

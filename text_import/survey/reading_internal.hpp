@@ -48,6 +48,7 @@ struct reading {
   double regularity = 0;   ///< the same inside the block
   double soundness = 0;    ///< how well the values hold together, 0 to 1
   double broken_share = 0;  ///< values that a wrong cut seems to have left
+  double empty_share = 0;   ///< fields that are empty
   double typed_share = 0;   ///< values that say more than text
   std::size_t typed_columns = 0;
   std::size_t filled_columns = 0;  ///< columns with a value
@@ -59,6 +60,10 @@ struct reading {
 [[nodiscard]] reading measure_records(std::shared_ptr<textio::GenericStrategy> strategy,
                                       sample_lines const& lines,
                                       column_profile const* profile = nullptr);
+
+/// The same strategy with the table at the end of the text, where that is another one than the
+/// largest: titles and notes may look like a larger table.
+[[nodiscard]] std::optional<reading> measure_last_block(reading const& r);
 
 /// Looks at values of the block: soundness and types. Dearer than the measures of records.
 void measure_values(reading& r);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The records of a table mostly have the same number of fields. Usual delimiters may leave out more
-// of the text (titles, notes) than blanks, which any sentence holds; what covers little of the text
-// has to be flawless, stand at its end, where data stand, and say more than text.
+// Between its first and its last record a table mostly has the same number of fields; usual
+// delimiters may be missing more often than blanks, which any sentence holds, and a rare delimiter
+// has to split nearly all of the text.
 #include "text_import/survey/rules/delimiter_class_internal.hpp"
 #include "text_import/survey/rules/survey_rule_internal.hpp"
 
@@ -10,25 +10,15 @@ namespace textimport::survey {
 
 namespace {
 
-bool is_flawless_end(reading const& r) {
-  bool const reaches_end = r.block.last + 2 >= r.records.size();
-  return reaches_end && r.regularity >= 0.95 && r.block.regular >= 2 && r.typed_columns > 0;
-}
-
-bool is_regular_in_blanks(reading const& r) {
-  if (r.regularity < 0.9 || (r.filled_records == 1 && r.typed_columns < 2)) {
+bool is_regular(reading const& r) {
+  if (r.block.columns < 2) {
     return false;
   }
-  bool const is_data = r.typed_share >= 0.6;
-  return r.coverage >= 0.8 || (is_data && (r.coverage >= 0.5 || is_flawless_end(r)));
-}
-
-bool is_regular(reading const& r) {
   switch (class_of(r)) {
     case delimiter_class::usual:
-      return r.regularity >= 0.6 && (r.coverage >= 0.45 || is_flawless_end(r));
+      return r.regularity >= 0.6;
     case delimiter_class::blank:
-      return is_regular_in_blanks(r);
+      return r.regularity >= 0.9;
     case delimiter_class::rare:
       return r.coverage >= 0.9;
     case delimiter_class::none:
@@ -44,6 +34,6 @@ survey_rule const regular_records{
     [](kept_readings const& kept, std::vector<reading> const& readings) {
       return keep_if(kept, readings, is_regular);
     },
-    [](reading const& r) { return r.coverage; }};
+    [](reading const& r) { return r.regularity; }};
 
 }  // namespace textimport::survey

@@ -23,8 +23,10 @@ struct survey_rule {
   double (*measure)(reading const& r);
 };
 
+extern survey_rule const regular_records;  // the only one that asks for no values
 extern survey_rule const several_columns;
-extern survey_rule const regular_records;
+extern survey_rule const enough_text;
+extern survey_rule const single_blanks;
 extern survey_rule const rare_delimiters;
 extern survey_rule const sound_values;
 extern survey_rule const seconds_are_no_column;

@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: MIT
+#include "text_import/survey/readings_internal.hpp"
+
+#include <algorithm>
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "text_format_detection/detection/strategy_selector.hpp"
+#include "text_format_detection/reading/read_records.hpp"
+#include "text_format_detection/strategies/layout_strategies.hpp"
+#include "text_import/survey/unguessed_delimiters_internal.hpp"
+
+namespace textimport::survey {
+
+namespace {
+
+using textio::DelimitedStrategy;
+using textio::FixedWidthStrategy;
+using textio::SpaceAlignedStrategy;
+using textio::detection::DetectionReport;
+
+using delimiter_list = std::vector<std::u16string>;
+
+// Lines behind these are like those before them.
+constexpr std::size_t lines_profiled = 2000;
+
+/// Whether characters of one kind stand below each other as they do in columns of fixed width. The
+/// less the positions agree, the more the lengths have to.
+bool is_columnar(column_profile const& profile) {
+  double const agreement = profile.agreement();
+  double const equal = profile.equal_lengths();
+  bool const is_long_enough = profile.num_lines() >= 4;
+  return is_long_enough && ((agreement >= 0.5 && equal >= 0.6) || (agreement >= 0.2 && equal >= 0.95));
+}
+
+/// Fills the list of one survey.
+class reading_collector {
+ public:
+  reading_collector(sample_lines const& lines, survey_options const& options)
+      : lines_(lines), options_(options) {}
+
+  void ask_library(hypothesis const& asked) {
+    DetectionReport report;
+    textio::detection::StrategySelector selector(asked.parsing, options_.types);
+    static_cast<void>(selector.pick_strategy(textio::Field(lines_.text()), options_.records, report));
+    for (auto const& sampled : report.sampled) {
+      add(sampled.strategy);
+    }
+    for (std::u16string const& delimiter : unguessed_delimiters(lines_, report)) {
+      evaluate<DelimitedStrategy>(asked, delimiter_list{delimiter});
+    }
+  }
+
+  /// Reads by what is given of layout, delimiter and widths.
+  void read_as_given(hypothesis const& asked) {
+    given_parts const& given = options_.given;
+    if (given.delimiter) {
+      evaluate<DelimitedStrategy>(asked, asked.parsing.delimiters);
+    } else if (given.widths) {
+      evaluate<FixedWidthStrategy>(asked, std::vector(asked.parsing.column_widths));
+    } else if (options_.layout == table_layout::space_aligned) {
+      evaluate<SpaceAlignedStrategy>(asked);
+    } else if (options_.layout == table_layout::delimited) {
+      ask_library(asked);
+      std::erase_if(readings_, [](reading const& r) { return r.layout != table_layout::delimited; });
+      if (readings_.empty()) {
+        evaluate<DelimitedStrategy>(asked, delimiter_list{u","});
+      }
+    }
+  }
+
+  /// Columns of fixed width, as the positions of the lines show them. Titles stand at the top, so
+  /// that the end of the text may show them better than all of it.
+  void read_fixed_width(bool const is_given) {
+    std::size_t const end = std::min(lines_.count(), lines_profiled);
+    column_profile best(lines_, 0, end);
+    for (std::size_t const first : {end / 2, end * 2 / 3}) {
+      column_profile profile(lines_, first, end);
+      bool const is_clearer = profile.agreement() > best.agreement() + 0.1;
+      if (is_columnar(profile) && (is_clearer || !is_columnar(best))) {
+        best = std::move(profile);
+      }
+    }
+    if (!is_given && !is_columnar(best)) {
+      return;
+    }
+    auto const strategy =
+        std::make_shared<FixedWidthStrategy>(options_.parsing, options_.types, best.widths());
+    textio::evaluate_strategy(strategy, textio::Field(lines_.text()), options_.records);
+    readings_.push_back(measure_records(strategy, lines_, &best));
+  }
+
+  void next_hypothesis() { ++hypothesis_; }
+
+  [[nodiscard]] std::vector<reading> take() { return std::move(readings_); }
+
+  /// Whether a usual delimiter explains nearly all of the text.
+  [[nodiscard]] bool is_explained() const {
+    return std::ranges::any_of(readings_, [](reading const& r) {
+      constexpr std::u16string_view usual = u",\t;|";
+      bool const is_usual = r.delimiter.size() == 1 && usual.find(r.delimiter.front()) != usual.npos;
+      return is_usual && r.coverage >= 0.9 && r.block.columns >= 3;
+    });
+  }
+
+ private:
+  template <class Strategy, class... Argument>
+  void evaluate(hypothesis const& asked, Argument&&... argument) {
+    auto strategy = std::make_shared<Strategy>(asked.parsing, options_.types,
+                                               std::forward<Argument>(argument)...);
+    textio::evaluate_strategy(strategy, textio::Field(lines_.text()), options_.records);
+    add(std::move(strategy));
+  }
+
+  void add(std::shared_ptr<textio::GenericStrategy> strategy) {
+    reading r = measure_records(std::move(strategy), lines_);
+    r.hypothesis = hypothesis_;
+    if (auto last = measure_last_block(r)) {
+      readings_.push_back(std::move(*last));
+    }
+    readings_.push_back(std::move(r));
+  }
+
+  sample_lines const& lines_;
+  survey_options const& options_;
+  std::size_t hypothesis_ = 0;
+  std::vector<reading> readings_;
+};
+
+}  // namespace
+
+std::vector<reading> collect_readings(sample_lines const& lines,
+                                      std::vector<hypothesis> const& hypotheses,
+                                      survey_options const& options) {
+  given_parts const& given = options.given;
+  bool const is_bound = given.delimiter || given.widths || given.layout;
+  reading_collector collector(lines, options);
+  for (hypothesis const& asked : hypotheses) {
+    is_bound ? collector.read_as_given(asked) : collector.ask_library(asked);
+    collector.next_hypothesis();
+  }
+  bool const is_fixed = given.layout && options.layout == table_layout::fixed_width && !given.widths;
+  if (is_fixed || (!is_bound && !collector.is_explained())) {
+    collector.read_fixed_width(is_fixed);
+  }
+  return collector.take();
+}
+
+std::shared_ptr<textio::GenericStrategy> read_lines(sample_lines const& lines,
+                                                    survey_options const& options) {
+  auto strategy = std::make_shared<textio::LineReaderStrategy>(options.parsing, options.types);
+  textio::evaluate_strategy(strategy, textio::Field(lines.text()), options.records);
+  return strategy;
+}
+
+}  // namespace textimport::survey

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+//
+// A table makes up much of its text. Titles and notes may stand around it, but what covers little
+// of the text has to be flawless, stand at the end, where data stand, and say more than text. With
+// blanks, which split any prose, even the larger part of a text has to say more than text.
+#include "text_import/survey/rules/delimiter_class_internal.hpp"
+#include "text_import/survey/rules/survey_rule_internal.hpp"
+
+namespace textimport::survey {
+
+namespace {
+
+bool is_flawless_end(reading const& r) {
+  bool const reaches_end = r.block.last + 2 >= r.records.size();
+  return reaches_end && r.regularity >= 0.95 && r.block.regular >= 2 && r.typed_columns > 0;
+}
+
+bool is_enough(reading const& r) {
+  bool const is_data = r.typed_share >= 0.5;
+  switch (class_of(r)) {
+    case delimiter_class::usual:
+      return r.coverage >= 0.45 || is_flawless_end(r);
+    case delimiter_class::blank:
+      if (r.filled_records == 1) {
+        return r.typed_columns >= 2;
+      }
+      return r.coverage >= 0.8 || (is_data && (r.coverage >= 0.5 || is_flawless_end(r)));
+    case delimiter_class::rare:
+    case delimiter_class::none:
+      break;
+  }
+  return true;
+}
+
+}  // namespace
+
+survey_rule const enough_text{
+    "enough_text",
+    [](kept_readings const& kept, std::vector<reading> const& readings) {
+      return keep_if(kept, readings, is_enough);
+    },
+    [](reading const& r) { return r.coverage; }};
+
+}  // namespace textimport::survey
