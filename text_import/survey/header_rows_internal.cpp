@@ -177,19 +177,22 @@ header_rows find_header_rows(reading const& r) {
   std::size_t const first = skip_titles(table);
   found.first_data = table.record(std::min(first, table.rows() - 1));
   bool any_typed = false;
+  std::optional<std::size_t> first_header;
   std::optional<std::size_t> last_header;
   for (std::size_t row = first; row < std::min(first + candidates, table.rows() - 1); ++row) {
     comparison const c = compare_with_rest(table, row);
     any_typed = any_typed || c.typed_columns > 0;
     if (is_header_by_types(c) || (row == first && counts_up(table, row) && !counts_up(table, row + 1))) {
+      first_header = first_header.value_or(row);
       last_header = row;
     }
   }
   if (!any_typed && first + 1 < table.rows() && is_header_by_text(table, first)) {
+    first_header = first;
     last_header = first;
   }
   if (last_header) {
-    found.names = table.record(*last_header);
+    found.names = table.record(*first_header);
     found.first_data = table.record(*last_header + 1);
   }
   return found;
