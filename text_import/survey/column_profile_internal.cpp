@@ -108,7 +108,7 @@ bool column_profile::fits(view const line) const noexcept {
     std::size_t const kind = kind_of(text[pos]);
     rare += kind != 0 && counts_[pos][kind] * 20 < num_lines_ ? 1U : 0U;
   }
-  return rare * 5 <= text.size();
+  return rare * 8 <= text.size();
 }
 
 bool column_profile::is_mostly_digit(std::size_t const position) const noexcept {
