@@ -26,7 +26,8 @@ class column_profile {
   /// middle and right third of the lines: logs and programs agree at the left only.
   [[nodiscard]] double agreement() const noexcept { return agreement_; }
 
-  /// The share of lines whose length is about the usual one.
+  /// The share of lines whose length is about the usual one, blanks at their ends counted or not,
+  /// whichever is larger.
   [[nodiscard]] double equal_lengths() const noexcept { return equal_lengths_; }
 
   [[nodiscard]] std::size_t num_lines() const noexcept { return num_lines_; }
