@@ -15,6 +15,32 @@ constexpr std::size_t max_positions = 4096;
 // Signs that are a kind of their own; behind them come digits, letters and everything else.
 constexpr view kinds = u" .,-+:/|*";
 constexpr std::size_t digit_kind = kinds.size();
+constexpr std::size_t letter_kind = digit_kind + 1;
+constexpr std::size_t other_kind = digit_kind + 2;
+
+constexpr std::size_t find_kind(char16_t const c) {
+  if (c == u'\t') {
+    return 0;
+  }
+  if (std::size_t const kind = kinds.find(c); kind != view::npos) {
+    return kind;
+  }
+  bool const is_letter = (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z');
+  return c >= u'0' && c <= u'9' ? digit_kind : is_letter ? letter_kind : other_kind;
+}
+
+constexpr std::array<std::uint8_t, 128> ascii_kinds = [] {
+  std::array<std::uint8_t, 128> table{};
+  for (std::size_t c = 0; c < table.size(); ++c) {
+    table[c] = static_cast<std::uint8_t>(find_kind(static_cast<char16_t>(c)));
+  }
+  return table;
+}();
+
+/// Everything outside ASCII counts as a letter.
+std::size_t kind_of(char16_t const c) {
+  return c < ascii_kinds.size() ? ascii_kinds[c] : letter_kind;
+}
 
 view without_trailing_blanks(view const line) {
   std::size_t const last = line.find_last_not_of(u" \t");
@@ -37,20 +63,6 @@ double share_of_usual(std::vector<std::size_t> const& lengths) {
 }
 
 }  // namespace
-
-std::size_t column_profile::kind_of(char16_t const c) noexcept {
-  if (c == u'\t') {
-    return 0;
-  }
-  if (std::size_t const kind = kinds.find(c); kind != view::npos) {
-    return kind;
-  }
-  if (c >= u'0' && c <= u'9') {
-    return digit_kind;
-  }
-  bool const is_letter = (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z') || c >= 0x80;
-  return digit_kind + (is_letter ? 1 : 2);
-}
 
 column_profile::column_profile(sample_lines const& lines, std::size_t const first,
                                std::size_t const end) {

@@ -43,7 +43,6 @@ class column_profile {
   static constexpr std::size_t num_kinds = 12;
   using kind_counts = std::array<std::uint32_t, num_kinds>;
 
-  [[nodiscard]] static std::size_t kind_of(char16_t c) noexcept;
   [[nodiscard]] double agreement_between(std::size_t first, std::size_t end) const noexcept;
   [[nodiscard]] bool is_blank_at(std::size_t position) const noexcept;
   [[nodiscard]] bool is_mostly_digit(std::size_t position) const noexcept;
