@@ -22,7 +22,7 @@ namespace {
 namespace fs = std::filesystem;
 using namespace textimport;
 
-fs::path const folder = TFD_SURVEYS_FOLDER;
+fs::path const folder = TFD_TESTS_FOLDER "/text_import/surveys";
 
 std::string show_mark(char16_t const c) {
   return c == 0 ? "none" : support::show({&c, 1});

@@ -192,11 +192,13 @@ column_findings describe_lines(sample_lines const& lines, std::size_t const firs
 void place_columns(std::vector<column_findings>& columns, std::vector<std::size_t> const& widths,
                    sample_lines const& lines, std::size_t const first, std::size_t const end,
                    std::string_view const encoding) {
+  constexpr std::size_t lines_compared = 250;
+  std::size_t const last = std::min(end, first + lines_compared);
   std::size_t begin = 0;
   for (std::size_t column = 0; column < std::min(columns.size(), widths.size()); ++column) {
     std::size_t const behind = begin + widths[column];
-    columns[column].characters = extent_in_characters(lines, first, end, begin, behind);
-    columns[column].bytes = extent_in_bytes(lines, first, end, begin, behind, encoding);
+    columns[column].characters = extent_in_characters(lines, first, last, begin, behind);
+    columns[column].bytes = extent_in_bytes(lines, first, last, begin, behind, encoding);
     begin = behind;
   }
 }

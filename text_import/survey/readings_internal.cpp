@@ -95,7 +95,9 @@ class reading_collector {
     }
     auto const strategy =
         std::make_shared<FixedWidthStrategy>(options_.parsing, options_.types, best.widths());
-    textio::evaluate_strategy(strategy, textio::Field(lines_.text()), options_.records);
+    // All lines that were profiled: the table may stand behind a long preamble.
+    textio::evaluate_strategy(strategy, textio::Field(lines_.text()),
+                              std::max(options_.records, lines_profiled));
     readings_.push_back(measure_records(strategy, lines_, &best));
     readings_.back().agreement = best.agreement();
   }
