@@ -29,6 +29,11 @@ if(TFD_SANITIZE)
   add_link_options(${tfd_sanitizers})
 endif()
 
+# What a build with libFuzzer measures; the fuzzers themselves link its main program as well.
+if(TFD_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+
 # tfd_defaults(TARGET): C++20 without extensions, hidden symbols, our warnings.
 function(tfd_defaults target)
   target_compile_features(${target} PUBLIC cxx_std_20)
@@ -63,6 +68,21 @@ endfunction()
 function(tfd_test name)
   add_test(NAME ${name} COMMAND ${ARGN})
   set_tests_properties(${name} PROPERTIES TIMEOUT 300)
+endfunction()
+
+# tfd_fuzzer(NAME [SOURCES...] LIBRARIES...): the target in NAME_fuzz.cpp, as a fuzzer or as the test
+# fuzz.NAME that replays corpus/NAME.
+function(tfd_fuzzer name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES")
+  add_executable(${name}_fuzz ${name}_fuzz.cpp ${arg_SOURCES})
+  tfd_defaults(${name}_fuzz)
+  target_link_libraries(${name}_fuzz PRIVATE ${arg_LIBRARIES})
+  if(TFD_FUZZ)
+    target_link_options(${name}_fuzz PRIVATE -fsanitize=fuzzer)
+  else()
+    target_sources(${name}_fuzz PRIVATE replay_main.cpp)
+    tfd_test(fuzz.${name} ${name}_fuzz ${CMAKE_CURRENT_SOURCE_DIR}/corpus/${name})
+  endif()
 endfunction()
 
 # tfd_install_pc(NAME): one file for pkg-config, which finds its prefix from its own place.
