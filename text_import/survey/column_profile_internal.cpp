@@ -12,6 +12,10 @@ using view = std::u16string_view;
 // Wider lines are profiled up to here.
 constexpr std::size_t max_positions = 4096;
 
+// Signs that are a kind of their own; behind them come digits, letters and everything else.
+constexpr view kinds = u" .,-+:/|*";
+constexpr std::size_t digit_kind = kinds.size();
+
 view without_trailing_blanks(view const line) {
   std::size_t const last = line.find_last_not_of(u" \t");
   return line.substr(0, last == view::npos ? 0 : last + 1);
@@ -20,7 +24,6 @@ view without_trailing_blanks(view const line) {
 }  // namespace
 
 std::size_t column_profile::kind_of(char16_t const c) noexcept {
-  constexpr view kinds = u" .,-+:/|*";
   if (c == u'\t') {
     return 0;
   }
@@ -28,10 +31,10 @@ std::size_t column_profile::kind_of(char16_t const c) noexcept {
     return kind;
   }
   if (c >= u'0' && c <= u'9') {
-    return kinds.size();
+    return digit_kind;
   }
   bool const is_letter = (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z') || c >= 0x80;
-  return kinds.size() + (is_letter ? 1 : 2);
+  return digit_kind + (is_letter ? 1 : 2);
 }
 
 column_profile::column_profile(sample_lines const& lines, std::size_t const first,
@@ -105,10 +108,33 @@ bool column_profile::fits(view const line) const noexcept {
     std::size_t const kind = kind_of(text[pos]);
     rare += kind != 0 && counts_[pos][kind] * 20 < num_lines_ ? 1U : 0U;
   }
-  return rare * 10 <= text.size();
+  return rare * 8 <= text.size();
+}
+
+bool column_profile::is_mostly_digit(std::size_t const position) const noexcept {
+  return counts_[position][digit_kind] * 10 >= num_lines_ * 9;
 }
 
 std::vector<std::size_t> column_profile::widths() const {
+  constexpr std::size_t long_line = 40;
+  auto widths = widths_between_blanks();
+  return widths.size() < 2 && counts_.size() >= long_line ? widths_of_touching() : widths;
+}
+
+std::vector<std::size_t> column_profile::widths_of_touching() const {
+  std::vector<std::size_t> widths;
+  std::size_t start = 0;
+  for (std::size_t pos = 1; pos < counts_.size(); ++pos) {
+    if (is_mostly_digit(pos) && !is_mostly_digit(pos - 1)) {
+      widths.push_back(pos - start);
+      start = pos;
+    }
+  }
+  widths.push_back(counts_.size() - start);
+  return widths;
+}
+
+std::vector<std::size_t> column_profile::widths_between_blanks() const {
   std::vector<std::size_t> widths;
   std::size_t start = 0;
   bool in_column = false;  // a filled position was met since `start`

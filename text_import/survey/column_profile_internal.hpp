@@ -34,7 +34,8 @@ class column_profile {
   /// Whether the line has hardly a character of a kind that is rare at its position.
   [[nodiscard]] bool fits(std::u16string_view line) const noexcept;
 
-  /// The widths of the columns, in code units: a column begins where a blank position ends.
+  /// The widths of the columns, in code units: a column begins where a blank position ends, and in
+  /// long lines without any such place where digits begin behind something else.
   [[nodiscard]] std::vector<std::size_t> widths() const;
 
  private:
@@ -44,6 +45,9 @@ class column_profile {
   [[nodiscard]] static std::size_t kind_of(char16_t c) noexcept;
   [[nodiscard]] double agreement_between(std::size_t first, std::size_t end) const noexcept;
   [[nodiscard]] bool is_blank_at(std::size_t position) const noexcept;
+  [[nodiscard]] bool is_mostly_digit(std::size_t position) const noexcept;
+  [[nodiscard]] std::vector<std::size_t> widths_between_blanks() const;
+  [[nodiscard]] std::vector<std::size_t> widths_of_touching() const;
 
   std::vector<kind_counts> counts_;  // by position
   std::size_t num_lines_ = 0;

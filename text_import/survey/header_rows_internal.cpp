@@ -2,6 +2,8 @@
 #include "text_import/survey/header_rows_internal.hpp"
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
 #include <set>
 #include <string>
 #include <vector>
@@ -54,33 +56,58 @@ class cell_table {
   std::vector<cell> cells_;
 };
 
-/// Whether most values of a column from a row on say more than text.
-bool is_typed_column(cell_table const& table, std::size_t const column, std::size_t const first) {
-  std::size_t typed = 0;
+/// Kinds of values that a name does not have in common with those below it.
+enum class family : std::uint8_t { none, number, time, boolean };
+
+family family_of(value_shape const shape) {
+  switch (shape) {
+    case value_shape::integer:
+    case value_shape::real:
+    case value_shape::complex_number:
+    case value_shape::hexadecimal:
+    case value_shape::binary:
+      return family::number;
+    case value_shape::date:
+    case value_shape::date_time:
+    case value_shape::duration:
+      return family::time;
+    case value_shape::boolean:
+      return family::boolean;
+    default:
+      return family::none;
+  }
+}
+
+/// The family of most values of a column from a row on.
+family column_family(cell_table const& table, std::size_t const column, std::size_t const first) {
+  std::array<std::size_t, 4> counts{};
   std::size_t filled = 0;
   for (std::size_t row = first; row < table.rows(); ++row) {
     value_shape const shape = table.at(row, column).look.shape;
     filled += shape != value_shape::empty && shape != value_shape::missing ? 1U : 0U;
-    typed += is_typed(shape) ? 1U : 0U;
+    ++counts[static_cast<std::size_t>(family_of(shape))];
   }
-  return typed > 0 && typed * 5 >= filled * 4;
+  auto const most = std::max_element(counts.begin() + 1, counts.end());
+  return *most > 0 && *most * 5 >= filled * 4 ? static_cast<family>(most - counts.begin())
+                                              : family::none;
 }
 
 struct comparison {
   std::size_t typed_columns = 0;
-  std::size_t conflicts = 0;   ///< text where the column holds numbers, dates ...
+  std::size_t conflicts = 0;   ///< another value where the column holds numbers, dates ...
   std::size_t agreements = 0;  ///< one of them where it does
 };
 
 comparison compare_with_rest(cell_table const& table, std::size_t const row) {
   comparison c;
   for (std::size_t column = 0; column < table.columns(); ++column) {
-    if (!is_typed_column(table, column, row + 1)) {
+    family const below = column_family(table, column, row + 1);
+    if (below == family::none) {
       continue;
     }
     ++c.typed_columns;
     value_shape const shape = table.at(row, column).look.shape;
-    if (is_typed(shape)) {
+    if (family_of(shape) == below) {
       ++c.agreements;
     } else if (shape != value_shape::empty && shape != value_shape::missing) {
       ++c.conflicts;
@@ -166,6 +193,22 @@ std::size_t skip_titles(cell_table const& table) {
   return static_cast<std::size_t>(first - filled.begin());
 }
 
+/// A record between the header and the first regular one is data too when it holds a value that
+/// says more than text.
+std::size_t first_record_behind(reading const& r, std::size_t const header,
+                                std::size_t const regular) {
+  for (std::size_t i = header + 1; i < regular; ++i) {
+    auto const fields = r.strategy->field_array()->record(i);
+    bool const is_data = fields.size() > 1 && std::ranges::any_of(fields, [&](auto const& field) {
+      return is_typed(look_at(field.view(), r.quote).shape);
+    });
+    if (is_data) {
+      return i;
+    }
+  }
+  return regular;
+}
+
 }  // namespace
 
 header_rows find_header_rows(reading const& r) {
@@ -177,20 +220,23 @@ header_rows find_header_rows(reading const& r) {
   std::size_t const first = skip_titles(table);
   found.first_data = table.record(std::min(first, table.rows() - 1));
   bool any_typed = false;
+  std::optional<std::size_t> first_header;
   std::optional<std::size_t> last_header;
   for (std::size_t row = first; row < std::min(first + candidates, table.rows() - 1); ++row) {
     comparison const c = compare_with_rest(table, row);
     any_typed = any_typed || c.typed_columns > 0;
     if (is_header_by_types(c) || (row == first && counts_up(table, row) && !counts_up(table, row + 1))) {
+      first_header = first_header.value_or(row);
       last_header = row;
     }
   }
   if (!any_typed && first + 1 < table.rows() && is_header_by_text(table, first)) {
+    first_header = first;
     last_header = first;
   }
   if (last_header) {
-    found.names = table.record(*last_header);
-    found.first_data = table.record(*last_header + 1);
+    found.names = table.record(*first_header);
+    found.first_data = first_record_behind(r, table.record(*last_header), table.record(*last_header + 1));
   }
   return found;
 }

@@ -23,21 +23,25 @@ std::size_t num_looked_at(sample_lines const& lines) {
 
 struct marked_lines {
   std::size_t count = 0;
-  std::size_t at_top = 0;  ///< those in front of the first line without the marker
+  std::size_t at_edges = 0;  ///< those in front of the first line without it or behind the last
 };
 
 /// The lines that start with a marker.
 marked_lines count_marked(sample_lines const& lines, view const marker) {
   marked_lines marked;
+  std::size_t run = 0;  // of marked and blank lines
   bool is_top = true;
   for (std::size_t i = 0; i < num_looked_at(lines); ++i) {
     if (lines[i].starts_with(marker)) {
       ++marked.count;
-      marked.at_top += is_top ? 1U : 0U;
-    } else {
-      is_top = is_top && trimmed(lines[i]).empty();
+      ++run;
+    } else if (!trimmed(lines[i]).empty()) {
+      marked.at_edges += is_top ? run : 0U;
+      is_top = false;
+      run = 0;
     }
   }
+  marked.at_edges += run;
   return marked;
 }
 
@@ -48,7 +52,7 @@ std::optional<view> find_comment_marker(sample_lines const& lines) {
   for (view const marker : line_markers) {
     marked_lines const marked = count_marked(lines, marker);
     std::size_t const others = num_looked_at(lines) - marked.count;
-    if (marked.count > most && others >= 2 && marked.count - marked.at_top <= others / 2) {
+    if (marked.count > most && others >= 2 && marked.count - marked.at_edges <= others / 2) {
       best = marker;
       most = marked.count;
     }

@@ -77,6 +77,15 @@ table_block best_block(std::vector<record_place> const& records, std::size_t con
   return best;
 }
 
+/// Of two blocks that are equally large the first in the text is better, unless they are so small
+/// that it may be a line of names.
+bool is_better(table_block const& block, table_block const& best) {
+  auto const surplus = [](table_block const& b) { return b.regular - b.irregular; };
+  bool const is_small = block.regular < 3;
+  return surplus(block) > surplus(best) ||
+         (surplus(block) == surplus(best) && (is_small || block.first < best.first));
+}
+
 /// The best block of all numbers of fields; of those that reach the end of the records, where
 /// `at_end` asks for that.
 table_block find_block(std::vector<record_place> const& records, bool const at_end) {
@@ -91,7 +100,7 @@ table_block find_block(std::vector<record_place> const& records, bool const at_e
     }
     table_block const block = best_block(records, columns);
     bool const is_candidate = !at_end || block.last + 1 == records.size();
-    if (is_candidate && block.regular - block.irregular >= best.regular - best.irregular) {
+    if (is_candidate && is_better(block, best)) {
       best = block;
     }
   }
@@ -172,6 +181,7 @@ void measure_values(reading& r) {
   struct column_count {
     std::size_t filled = 0;
     std::size_t typed = 0;
+    std::size_t names = 0;  // texts in the first record
   };
   std::vector<column_count> counts(columns);
   double weights = 0;
@@ -195,14 +205,17 @@ void measure_values(reading& r) {
       weights += weight_of(look);
       broken += look.shape == value_shape::broken ? 1U : 0U;
       ++counts[column].filled;
-      counts[column].typed += is_typed(look.shape) || look.shape == value_shape::missing ? 1U : 0U;
+      bool const is_value = is_typed(look.shape) || look.shape == value_shape::missing;
+      counts[column].typed += is_value ? 1U : 0U;
+      bool const may_be_name = regular == 1 && !is_value && r.block.regular > 2;
+      counts[column].names += may_be_name ? 1U : 0U;
     }
   }
   std::size_t typed = 0;
   for (column_count const& count : counts) {
     typed += count.typed;
     r.filled_columns += count.filled > 0 ? 1U : 0U;
-    r.typed_columns += count.typed > 0 && count.typed * 5 >= count.filled * 4 ? 1U : 0U;
+    r.typed_columns += count.typed > 0 && count.typed * 5 >= (count.filled - count.names) * 4 ? 1U : 0U;
   }
   if (filled > 0) {
     r.empty_share = 1 - static_cast<double>(filled) / static_cast<double>(looked_at);

@@ -3,40 +3,182 @@
 // The story of a survey: hypotheses, readings, weighing, and what can be said of the answer.
 #include "text_import/survey/survey.hpp"
 
-#include <cstdio>
-#include <cstdlib>
+#include <algorithm>
+#include <utility>
+
+#include "text_format_detection/model/field_array.hpp"
+#include "text_import/survey/columns_internal.hpp"
+#include "text_import/survey/confidence_internal.hpp"
 #include "text_import/survey/header_rows_internal.hpp"
 #include "text_import/survey/hypothesis_internal.hpp"
+#include "text_import/survey/line_roles_internal.hpp"
 #include "text_import/survey/readings_internal.hpp"
 #include "text_import/survey/sample_lines_internal.hpp"
+#include "text_import/survey/value_shape_internal.hpp"
 #include "text_import/survey/weighing_internal.hpp"
 
 namespace textimport {
 
-namespace survey {
 namespace {
-std::string narrow(std::u16string_view t){ std::string s; for(char16_t c: t) s.push_back(c<32?'^':c<127?char(c):'?'); return s; }
-}
+
+using survey::hypothesis;
+using survey::reading;
+using survey::sample_lines;
+
+std::u16string_view text_of(textio::Field const& sample) {
+  return sample.view().substr(0, sample.view().find(textio::end_mark));
 }
 
-survey_findings survey_text(textio::Field const& sample, survey_options const& options) {
-  using namespace survey;
-  std::u16string_view const text = sample.view().substr(0, sample.view().find(textio::end_mark));
-  sample_lines const lines(text, options.parsing.line_endings);
-  auto const hypotheses = propose_hypotheses(lines, options);
-  auto readings = collect_readings(lines, hypotheses, options);
-  weighing const weighed = weigh_readings(readings, options.given.layout || options.given.delimiter || options.given.widths);
-  static bool const dump = std::getenv("DUMP") != nullptr;
-  survey_findings f;
-  for (std::size_t i=0;i<readings.size();++i) { auto&r=readings[i];
-    if (dump) std::printf("   h%zu %d '%s' k%zu cov %.3f reg %.3f sound %.3f broken %.3f typed %.3f empty %.3f tc %zu rec %zu..%zu of %zu fell %s\n", r.hypothesis, int(r.layout), narrow(r.delimiter).c_str(), r.block.columns, r.coverage, r.regularity, r.soundness, r.broken_share, r.typed_share, r.empty_share, r.typed_columns, r.block.first, r.block.last, r.records.size(), std::string(weighed.fates[i].rule).c_str());
-    f.candidates.push_back({hypotheses[r.hypothesis].name, r.layout, r.delimiter, r.block.columns, r.coverage, r.soundness, weighed.fates[i].rule, weighed.fates[i].measure});
+class surveyor {
+ public:
+  surveyor(std::u16string_view const text, survey_options const& options)
+      : options_(options), lines_(text, options.parsing.line_endings) {}
+
+  survey_findings run() {
+    hypotheses_ = propose_hypotheses(lines_, options_);
+    if (!(options_.given.layout && options_.layout == table_layout::lines)) {
+      readings_ = collect_readings(lines_, hypotheses_, options_);
+    }
+    survey::weighing const weighed = weigh_readings(readings_, is_bound());
+    list_candidates(weighed);
+    found_.winner = weighed.winner;
+    found_.winner ? describe_table(readings_[*found_.winner]) : describe_lines();
+    judge();
+    return std::move(found_);
   }
-  f.winner = weighed.winner;
-  if (f.winner) { auto& r=readings[*f.winner];
-    f.layout = r.layout; f.delimiter=r.delimiter; f.num_columns=r.block.columns; f.data_starts_at = r.records[find_header_rows(r).first_data].line; f.strategy = r.strategy;  f.columns.resize(f.num_columns);}
-  else { f.strategy = read_lines(lines, options); f.columns.resize(1); }
-  return f;
+
+ private:
+  /// Whether the caller says how the lines are split.
+  [[nodiscard]] bool is_bound() const {
+    return options_.given.layout || options_.given.delimiter || options_.given.widths;
+  }
+
+  void list_candidates(survey::weighing const& weighed) {
+    for (std::size_t i = 0; i < readings_.size(); ++i) {
+      reading const& r = readings_[i];
+      found_.candidates.push_back({hypotheses_[r.hypothesis].name, r.layout, r.delimiter,
+                                   r.block.columns, r.coverage, r.soundness,
+                                   weighed.fates[i].rule, weighed.fates[i].measure});
+    }
+  }
+
+  void describe_table(reading const& r) {
+    found_.layout = r.layout;
+    found_.delimiter = r.delimiter;
+    found_.quote = r.quote;
+    found_.comment_style = r.strategy->options().comment_style;
+    found_.strategy = r.strategy;
+    found_.num_columns = std::max<std::size_t>(r.block.columns, 1);
+    if (r.block.regular == 0) {  // no table, yet the caller says how to read it
+      found_.columns.resize(found_.num_columns);
+      found_.data_ends_at = lines_.count();
+      return;
+    }
+    survey::header_rows const rows =
+        options_.given.header_lines ? rows_behind(r, options_.parsing.header_lines)
+                                    : find_header_rows(r);
+    auto around = look_around(r, rows, lines_);
+    found_.data_starts_at = around.data_starts_at;
+    found_.data_ends_at = around.data_ends_at;
+    found_.columns = describe_columns(r, rows.first_data);
+    if (r.layout == table_layout::fixed_width) {
+      place_columns(found_.columns, r.strategy->options().column_widths, lines_,
+                    around.data_starts_at, around.data_ends_at, options_.encoding);
+    }
+    take_surroundings(std::move(around), r.records.size());
+  }
+
+  void take_surroundings(survey::surroundings&& around, std::size_t const num_records) {
+    bool const sees_end = !options_.goes_on && num_records < options_.records;
+    if (!sees_end) {
+      std::erase_if(around.lines, [&](noted_line const& noted) {
+        return noted.line >= around.data_ends_at;
+      });
+      found_.data_ends_at.reset();
+    }
+    found_.lines = std::move(around.lines);
+    found_.has_names = around.has_names;
+    for (std::size_t column = 0; column < around.names.size(); ++column) {
+      found_.columns[column].name = std::move(around.names[column]);
+    }
+    found_.decimal_mark = options_.given.decimal_mark
+                              ? options_.parsing.decimal_separator
+                              : survey::common_decimal_mark(found_.columns, u'.');
+  }
+
+  /// The records from the given physical line on are the data.
+  static survey::header_rows rows_behind(reading const& r, std::size_t const header_lines) {
+    auto const first = std::ranges::find_if(
+        r.records, [&](auto const& record) { return record.line >= header_lines; });
+    std::size_t const last = r.records.size() - 1;
+    return {std::min(static_cast<std::size_t>(first - r.records.begin()), last), std::nullopt};
+  }
+
+  void describe_lines() {
+    found_.strategy = read_lines(lines_, options_);
+    found_.quote = survey::quote_of(options_.parsing);
+    std::size_t const first = first_line();
+    auto column = survey::describe_lines(lines_, first);
+    found_.data_starts_at = first;
+    if (first > 0 && !options_.given.header_lines) {
+      found_.has_names = true;
+      column.name = survey::unquoted(lines_[0], found_.quote);
+      found_.lines.push_back({0, line_role::names});
+    }
+    found_.columns.push_back(std::move(column));
+    if (!options_.goes_on) {
+      found_.data_ends_at = lines_.count();
+    }
+  }
+
+  /// The line behind the name of a list: a text on top of lines that are all more than text.
+  [[nodiscard]] std::size_t first_line() const {
+    if (options_.given.header_lines) {
+      return std::min(options_.parsing.header_lines, lines_.count());
+    }
+    if (lines_.count() < 2) {
+      return 0;
+    }
+    auto const is_value = [&](std::size_t const line) {
+      return is_typed(survey::look_at(lines_[line], survey::quote_of(options_.parsing)).shape);
+    };
+    bool const has_values = survey::describe_lines(lines_, 1).type != value_type::text;
+    return has_values && !is_value(0) ? 1 : 0;
+  }
+
+  void judge() {
+    if (is_bound()) {
+      found_.confidence = 1;
+      found_.reason = "given";
+      return;
+    }
+    if (!found_.winner) {
+      found_.confidence = lines_.count() == 0 ? 1 : confidence_of_lines(readings_);
+      found_.reason = "no reading as a table holds: each line is a value";
+      return;
+    }
+    found_.confidence = confidence_of_table(readings_, *found_.winner);
+    found_.decided = found_.confidence >= survey::decided_from;
+    found_.reason = found_.decided ? "one reading as a table is left"
+                                   : "too little speaks for the best reading as a table";
+    found_.runner_up = find_runner_up(readings_, *found_.winner);
+    if (found_.runner_up) {
+      found_.runner_up_confidence =
+          (1 - found_.confidence) * confidence_of_table(readings_, *found_.runner_up);
+    }
+  }
+
+  survey_options const& options_;
+  sample_lines lines_;
+  std::vector<hypothesis> hypotheses_;
+  std::vector<reading> readings_;
+  survey_findings found_;
+};
+
+}  // namespace
+
+survey_findings survey_text(textio::Field const& sample, survey_options const& options) {
+  return surveyor(text_of(sample), options).run();
 }
 
 }  // namespace textimport

@@ -35,6 +35,11 @@ bool is_missing_word(view const text) noexcept {
   return text.size() <= 7 && is_one_of(text, words);
 }
 
+bool is_infinity(view const text) noexcept {
+  static constexpr std::array<view, 6> words{u"inf",  u"infinity", u"+inf", u"+infinity", u"-inf", u"-infinity"};
+  return text.size() <= 9 && is_one_of(text, words);
+}
+
 bool is_boolean_word(view const text) noexcept {
   static constexpr std::array<view, 4> words{u"true", u"false", u"yes", u"no"};
   return text.size() <= 5 && is_one_of(text, words);
@@ -147,6 +152,8 @@ value_look look_inside(view const text) {
     look.leading_zeros = number->is_integer && number->leading_zeros;
   } else if (is_missing_word(text)) {
     look.shape = value_shape::missing;
+  } else if (is_infinity(text)) {
+    look.shape = value_shape::real;
   } else if (is_boolean_word(text)) {
     look.shape = value_shape::boolean;
   } else if (is_duration(text)) {

@@ -24,7 +24,8 @@ bool is_enough(reading const& r) {
       if (r.filled_records == 1) {
         return r.typed_columns >= 2;
       }
-      return r.coverage >= 0.8 || (is_data && (r.coverage >= 0.5 || is_flawless_end(r)));
+      return r.coverage >= 0.8 ||
+             (is_data && ((r.coverage >= 0.5 && r.block.regular > 2) || is_flawless_end(r)));
     case delimiter_class::rare:
     case delimiter_class::none:
       break;

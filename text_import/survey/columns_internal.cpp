@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: MIT
+#include "text_import/survey/columns_internal.hpp"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+#include "text_import/survey/date_order_internal.hpp"
+#include "text_import/survey/text_extent_internal.hpp"
+#include "text_import/survey/value_shape_internal.hpp"
+
+namespace textimport::survey {
+
+namespace {
+
+using view = std::u16string_view;
+
+constexpr std::size_t num_shapes = static_cast<std::size_t>(value_shape::broken) + 1;
+
+/// What the values of one column have in common, value by value.
+class column_summary {
+ public:
+  void add(view const field, char16_t const quote) {
+    value_look const look = look_at(field, quote);
+    view const text = unquoted(field, quote);
+    if (look.shape == value_shape::empty) {
+      ++findings_.empty;
+      return;
+    }
+    if (look.shape == value_shape::missing) {
+      add_missing_word(text);
+      return;
+    }
+    ++findings_.values;
+    ++shapes_[static_cast<std::size_t>(look.shape)];
+    quoted_ += look.quoted ? 1U : 0U;
+    findings_.longest_value = std::max(findings_.longest_value, count_characters(text));
+    findings_.leading_zeros = findings_.leading_zeros || look.leading_zeros;
+    add_marks(look.marks);
+    if (look.shape == value_shape::date || look.shape == value_shape::date_time) {
+      order_.add(text);
+    }
+  }
+
+  column_findings finish() {
+    findings_.quoted = findings_.values > 0 && quoted_ == findings_.values;
+    settle_marks();
+    settle_type();
+    bool const is_number = findings_.type == value_type::integer || findings_.type == value_type::real ||
+                           findings_.type == value_type::complex_number;
+    if (!is_number) {
+      findings_.decimal_mark = 0;
+      findings_.thousands_mark = 0;
+    }
+    if (findings_.type == value_type::integer && findings_.leading_zeros) {
+      findings_.type = value_type::text;  // a code: as a number it would lose its zeros
+    } else {
+      findings_.leading_zeros = false;
+    }
+    bool const is_date = findings_.type == value_type::date || findings_.type == value_type::date_time;
+    findings_.order = is_date ? order_.order() : date_order::none;
+    return std::move(findings_);
+  }
+
+ private:
+  void add_missing_word(view const word) {
+    auto& words = findings_.missing_words;
+    if (std::ranges::find(words, word) == words.end()) {
+      words.emplace_back(word);
+    }
+  }
+
+  void add_marks(number_marks const& marks) {
+    if (marks.either) {
+      ++either_;
+      return;
+    }
+    points_ += marks.decimal == u'.' ? 1U : 0U;
+    commas_ += marks.decimal == u',' ? 1U : 0U;
+    if (marks.thousands != 0) {
+      findings_.thousands_mark = marks.thousands;
+    }
+  }
+
+  /// "1,234" is a whole number unless a value like "1,5" shows what its comma is.
+  void settle_marks() {
+    if (commas_ > points_) {
+      findings_.decimal_mark = u',';
+      shapes_[static_cast<std::size_t>(value_shape::integer)] -= either_;
+      shapes_[static_cast<std::size_t>(value_shape::real)] += either_;
+      return;
+    }
+    findings_.decimal_mark = points_ > 0 ? u'.' : u'\0';
+    if (either_ > 0) {
+      findings_.thousands_mark = u',';
+    }
+  }
+
+  [[nodiscard]] std::size_t count(value_shape const shape) const {
+    return shapes_[static_cast<std::size_t>(shape)];
+  }
+
+  /// The narrowest type that nearly all values fit.
+  void settle_type() {
+    if (findings_.values == 0) {
+      return;
+    }
+    std::size_t const integers = count(value_shape::integer);
+    std::size_t const reals = integers + count(value_shape::real);
+    std::size_t const dates = count(value_shape::date);
+    struct choice {
+      value_type type;
+      std::size_t fitting;
+    };
+    std::array const choices{
+        choice{value_type::integer, integers},
+        choice{value_type::real, reals},
+        choice{value_type::complex_number, reals + count(value_shape::complex_number)},
+        choice{value_type::boolean, count(value_shape::boolean)},
+        choice{value_type::date, dates},
+        choice{value_type::date_time, dates + count(value_shape::date_time)},
+        choice{value_type::duration, count(value_shape::duration)},
+        choice{value_type::hexadecimal, count(value_shape::hexadecimal)},
+        choice{value_type::binary, count(value_shape::binary)}};
+    auto const nearly_all = [&](choice const& c) { return c.fitting * 20 >= findings_.values * 19; };
+    auto const found = std::ranges::find_if(choices, nearly_all);
+    findings_.type = found != choices.end() ? found->type : value_type::text;
+    findings_.fitting = found != choices.end() ? found->fitting : findings_.values;
+  }
+
+  column_findings findings_;
+  std::array<std::size_t, num_shapes> shapes_{};
+  std::size_t quoted_ = 0;
+  std::size_t points_ = 0;
+  std::size_t commas_ = 0;
+  std::size_t either_ = 0;
+  date_order_evidence order_;
+};
+
+}  // namespace
+
+std::vector<column_findings> describe_columns(reading const& r, std::size_t const first_data) {
+  std::vector<column_summary> summaries(r.block.columns);
+  auto const& fields = *r.strategy->field_array();
+  for (std::size_t i = first_data; i <= r.block.last; ++i) {
+    if (r.records[i].num_fields != r.block.columns) {
+      continue;
+    }
+    auto const record = fields.record(i);
+    for (std::size_t column = 0; column < std::min(record.size(), summaries.size()); ++column) {
+      summaries[column].add(record[column].view(), r.quote);
+    }
+  }
+  std::vector<column_findings> columns;
+  for (column_summary& summary : summaries) {
+    columns.push_back(summary.finish());
+  }
+  return columns;
+}
+
+column_findings describe_lines(sample_lines const& lines, std::size_t const first) {
+  constexpr std::size_t enough = 1000;
+  column_summary summary;
+  for (std::size_t i = first; i < std::min(lines.count(), first + enough); ++i) {
+    summary.add(lines[i], u'"');
+  }
+  return summary.finish();
+}
+
+void place_columns(std::vector<column_findings>& columns, std::vector<std::size_t> const& widths,
+                   sample_lines const& lines, std::size_t const first, std::size_t const end,
+                   std::string_view const encoding) {
+  std::size_t begin = 0;
+  for (std::size_t column = 0; column < std::min(columns.size(), widths.size()); ++column) {
+    std::size_t const behind = begin + widths[column];
+    columns[column].characters = extent_in_characters(lines, first, end, begin, behind);
+    columns[column].bytes = extent_in_bytes(lines, first, end, begin, behind, encoding);
+    begin = behind;
+  }
+}
+
+char16_t common_decimal_mark(std::vector<column_findings> const& columns,
+                             char16_t const otherwise) {
+  auto const count = [&](char16_t const mark) {
+    return std::ranges::count(columns, mark, &column_findings::decimal_mark);
+  };
+  if (count(u',') > count(u'.')) {
+    return u',';
+  }
+  return count(u'.') > 0 ? u'.' : otherwise;
+}
+
+}  // namespace textimport::survey
