@@ -37,6 +37,9 @@ constexpr std::array option_table{
     OptionSpec{Option::FilesFrom, Section::Reading, 0, "files0-from", "FILE", none, false,
                "Take the names of the files from FILE, each ended by a NUL byte; \"-\" is standard "
                "input."},
+    OptionSpec{Option::Library, Section::Reading, 0, "library", none, none, false,
+               "Give the detection library's own answer. Default: it is asked under several "
+               "assumptions, and what it says is weighed."},
 
     OptionSpec{Option::Layout, Section::Layout, 'l', "layout", none,
                "auto|delimited|space-aligned|fixed-width|lines", false,

@@ -29,6 +29,7 @@ enum class Option : std::uint8_t {
   SampleSize,
   Records,
   FilesFrom,
+  Library,
   // the layout
   Layout,
   Delimiter,
