@@ -67,7 +67,8 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* const data, std::size_
   require(type == textio::strategies::classify_field(types, elsewhere.view()),
           "a value has one type everywhere");
   require(type != ColumnType::Reserved && type != ColumnType::Undecided, "a value has a type");
-  if (type == ColumnType::Text || type == ColumnType::Date) {
+  bool const has_digit = text.find_first_of(u"0123456789") != std::u16string::npos;
+  if (type == ColumnType::Date || (type == ColumnType::Text && has_digit)) {
     require(datetime.value_or(false) == (type == ColumnType::Date), "the classifier knows dates");
   }
   types.trim_whitespace = types.use_missing_values = false;

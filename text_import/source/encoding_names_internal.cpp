@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <iterator>
+#include <memory>
+#include <new>
 #include <numeric>
 #include <set>
 #include <utility>
@@ -85,13 +87,25 @@ std::string standard_name(std::string const& name) {
   return {};
 }
 
+/// Whether the conversion library can convert: it knows the names of encodings that it has no table
+/// for.
+bool is_convertible(std::string const& name) {
+  UErrorCode status = U_ZERO_ERROR;
+  std::unique_ptr<UConverter, decltype(&ucnv_close)> const converter(
+      ucnv_open(name.c_str(), &status), ucnv_close);
+  if (status == U_MEMORY_ALLOCATION_ERROR) {
+    throw std::bad_alloc();
+  }
+  return U_SUCCESS(status) != 0;
+}
+
 }  // namespace
 
 std::string usual_encoding_name(std::string const& name) {
   UErrorCode status = U_ZERO_ERROR;
   // Behind a comma stand options of the conversion library.
   if (name.empty() || name.find(',') != std::string::npos ||
-      ucnv_countAliases(name.c_str(), &status) == 0) {
+      ucnv_countAliases(name.c_str(), &status) == 0 || !is_convertible(name)) {
     return {};
   }
   std::string standard = standard_name(name);

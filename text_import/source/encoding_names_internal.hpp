@@ -10,7 +10,7 @@
 namespace textimport {
 
 /// The usual name of the encoding that has `name` among its names (upper and lower case, hyphens
-/// and underscores alike); empty when none has.
+/// and underscores alike); empty when none has, or when it cannot be converted.
 std::string usual_encoding_name(std::string const& name);
 
 /// The standard names of the known encodings, sorted.

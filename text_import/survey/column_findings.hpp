@@ -60,8 +60,8 @@ struct column_findings {
   date_order order = date_order::none;
   /// Whole numbers with zeros in front, such as postal codes: to be kept as text.
   bool leading_zeros = false;
-  bool quoted = false;             ///< every value stands in quotes
-  std::size_t longest_value = 0;   ///< in characters (code points), quotes not counted
+  bool quoted = false;            ///< every value stands in quotes
+  std::size_t longest_value = 0;  ///< in characters (code points), quotes not counted
   /// Of fixed-width columns: the extent in code points, and in bytes of the file where every
   /// sampled line agrees on it.
   std::optional<column_extent> characters;

@@ -15,54 +15,80 @@ constexpr std::size_t max_positions = 4096;
 // Signs that are a kind of their own; behind them come digits, letters and everything else.
 constexpr view kinds = u" .,-+:/|*";
 constexpr std::size_t digit_kind = kinds.size();
+constexpr std::size_t letter_kind = digit_kind + 1;
+constexpr std::size_t other_kind = digit_kind + 2;
 
-view without_trailing_blanks(view const line) {
-  std::size_t const last = line.find_last_not_of(u" \t");
-  return line.substr(0, last == view::npos ? 0 : last + 1);
-}
-
-}  // namespace
-
-std::size_t column_profile::kind_of(char16_t const c) noexcept {
+constexpr std::size_t find_kind(char16_t const c) {
   if (c == u'\t') {
     return 0;
   }
   if (std::size_t const kind = kinds.find(c); kind != view::npos) {
     return kind;
   }
-  if (c >= u'0' && c <= u'9') {
-    return digit_kind;
-  }
-  bool const is_letter = (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z') || c >= 0x80;
-  return digit_kind + (is_letter ? 1 : 2);
+  bool const is_letter = (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z');
+  return c >= u'0' && c <= u'9' ? digit_kind : is_letter ? letter_kind : other_kind;
 }
+
+constexpr std::array<std::uint8_t, 128> ascii_kinds = [] {
+  std::array<std::uint8_t, 128> table{};
+  for (std::size_t c = 0; c < table.size(); ++c) {
+    table[c] = static_cast<std::uint8_t>(find_kind(static_cast<char16_t>(c)));
+  }
+  return table;
+}();
+
+/// Everything outside ASCII counts as a letter.
+std::size_t kind_of(char16_t const c) {
+  return c < ascii_kinds.size() ? ascii_kinds[c] : letter_kind;
+}
+
+view without_trailing_blanks(view const line) {
+  std::size_t const last = line.find_last_not_of(u" \t");
+  return line.substr(0, last == view::npos ? 0 : last + 1);
+}
+
+/// The median.
+std::size_t usual_length(std::vector<std::size_t> lengths) {
+  auto const middle = lengths.begin() + static_cast<std::ptrdiff_t>((lengths.size() - 1) / 2);
+  std::ranges::nth_element(lengths, middle);
+  return *middle;
+}
+
+/// The share of lengths that differ from the usual one by two at most.
+double share_of_usual(std::vector<std::size_t> const& lengths) {
+  std::size_t const usual = usual_length(lengths);
+  auto const is_usual = [&](std::size_t const n) { return n + 2 >= usual && n <= usual + 2; };
+  return static_cast<double>(std::ranges::count_if(lengths, is_usual)) /
+         static_cast<double>(lengths.size());
+}
+
+}  // namespace
 
 column_profile::column_profile(sample_lines const& lines, std::size_t const first,
                                std::size_t const end) {
   std::vector<view> filled;
   std::vector<std::size_t> lengths;
+  std::vector<std::size_t> padded_lengths;
   for (std::size_t i = first; i < end; ++i) {
     view const line = without_trailing_blanks(lines[i]);
     if (!line.empty()) {
       filled.push_back(line.substr(0, max_positions));
       lengths.push_back(filled.back().size());
+      padded_lengths.push_back(lines[i].size());
     }
   }
   num_lines_ = filled.size();
   if (num_lines_ == 0) {
     return;
   }
-  std::ranges::sort(lengths);
-  usual_length_ = lengths[(num_lines_ - 1) / 2];
-  counts_.resize(lengths.back());
-  std::size_t equal = 0;
+  equal_lengths_ = std::max(share_of_usual(lengths), share_of_usual(padded_lengths));
+  usual_length_ = usual_length(lengths);
+  counts_.resize(*std::ranges::max_element(lengths));
   for (view const line : filled) {
     for (std::size_t pos = 0; pos < line.size(); ++pos) {
       ++counts_[pos][kind_of(line[pos])];
     }
-    equal += line.size() + 2 >= usual_length_ && line.size() <= usual_length_ + 2 ? 1U : 0U;
   }
-  equal_lengths_ = static_cast<double>(equal) / static_cast<double>(num_lines_);
   std::size_t const third = usual_length_ / 3;
   agreement_ = std::min({agreement_between(0, third), agreement_between(third, 2 * third),
                          agreement_between(2 * third, usual_length_)});
@@ -89,7 +115,8 @@ double column_profile::agreement_between(std::size_t const first,
   for (std::uint32_t const count : all) {
     expected += static_cast<double>(count) * static_cast<double>(count) / std::max(total, 1.0);
   }
-  return total - expected < 1e-6 * total || total == 0 ? 0 : (agreed - expected) / (total - expected);
+  return total - expected < 1e-6 * total || total == 0 ? 0
+                                                       : (agreed - expected) / (total - expected);
 }
 
 bool column_profile::is_blank_at(std::size_t const position) const noexcept {

@@ -26,7 +26,8 @@ class column_profile {
   /// middle and right third of the lines: logs and programs agree at the left only.
   [[nodiscard]] double agreement() const noexcept { return agreement_; }
 
-  /// The share of lines whose length is about the usual one.
+  /// The share of lines whose length is about the usual one, blanks at their ends counted or not,
+  /// whichever is larger.
   [[nodiscard]] double equal_lengths() const noexcept { return equal_lengths_; }
 
   [[nodiscard]] std::size_t num_lines() const noexcept { return num_lines_; }
@@ -42,7 +43,6 @@ class column_profile {
   static constexpr std::size_t num_kinds = 12;
   using kind_counts = std::array<std::uint32_t, num_kinds>;
 
-  [[nodiscard]] static std::size_t kind_of(char16_t c) noexcept;
   [[nodiscard]] double agreement_between(std::size_t first, std::size_t end) const noexcept;
   [[nodiscard]] bool is_blank_at(std::size_t position) const noexcept;
   [[nodiscard]] bool is_mostly_digit(std::size_t position) const noexcept;

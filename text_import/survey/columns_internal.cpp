@@ -46,7 +46,8 @@ class column_summary {
     findings_.quoted = findings_.values > 0 && quoted_ == findings_.values;
     settle_marks();
     settle_type();
-    bool const is_number = findings_.type == value_type::integer || findings_.type == value_type::real ||
+    bool const is_number = findings_.type == value_type::integer ||
+                           findings_.type == value_type::real ||
                            findings_.type == value_type::complex_number;
     if (!is_number) {
       findings_.decimal_mark = 0;
@@ -57,7 +58,8 @@ class column_summary {
     } else {
       findings_.leading_zeros = false;
     }
-    bool const is_date = findings_.type == value_type::date || findings_.type == value_type::date_time;
+    bool const is_date =
+        findings_.type == value_type::date || findings_.type == value_type::date_time;
     findings_.order = is_date ? order_.order() : date_order::none;
     return std::move(findings_);
   }
@@ -108,10 +110,12 @@ class column_summary {
     std::size_t const integers = count(value_shape::integer);
     std::size_t const reals = integers + count(value_shape::real);
     std::size_t const dates = count(value_shape::date);
+
     struct choice {
       value_type type;
       std::size_t fitting;
     };
+
     std::array const choices{
         choice{value_type::integer, integers},
         choice{value_type::real, reals},
@@ -122,7 +126,9 @@ class column_summary {
         choice{value_type::duration, count(value_shape::duration)},
         choice{value_type::hexadecimal, count(value_shape::hexadecimal)},
         choice{value_type::binary, count(value_shape::binary)}};
-    auto const nearly_all = [&](choice const& c) { return c.fitting * 20 >= findings_.values * 19; };
+    auto const nearly_all = [&](choice const& c) {
+      return c.fitting * 20 >= findings_.values * 19;
+    };
     auto const found = std::ranges::find_if(choices, nearly_all);
     findings_.type = found != choices.end() ? found->type : value_type::text;
     findings_.fitting = found != choices.end() ? found->fitting : findings_.values;

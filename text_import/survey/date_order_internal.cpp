@@ -9,7 +9,9 @@ namespace textimport::survey {
 
 namespace {
 
-constexpr bool is_digit(char16_t const c) noexcept { return c >= u'0' && c <= u'9'; }
+constexpr bool is_digit(char16_t const c) noexcept {
+  return c >= u'0' && c <= u'9';
+}
 
 struct number_run {
   std::size_t digits = 0;

@@ -43,7 +43,9 @@ class cell_table {
   };
 
   [[nodiscard]] std::size_t rows() const { return records_.size(); }
+
   [[nodiscard]] std::size_t columns() const { return reading_.block.columns; }
+
   [[nodiscard]] std::size_t record(std::size_t const row) const { return records_[row]; }
 
   [[nodiscard]] cell const& at(std::size_t const row, std::size_t const column) const {
@@ -157,7 +159,8 @@ bool is_header_by_text(cell_table const& table, std::size_t const row) {
   std::set<view> names;
   for (std::size_t column = 0; column < table.columns(); ++column) {
     auto const& cell = table.at(row, column);
-    bool const is_name = !cell.text.empty() && !is_typed(cell.look.shape) && !is_like_data(cell.text);
+    bool const is_name =
+        !cell.text.empty() && !is_typed(cell.look.shape) && !is_like_data(cell.text);
     if (!is_name || !names.insert(cell.text).second) {
       return false;
     }
@@ -189,7 +192,8 @@ std::size_t skip_titles(cell_table const& table) {
   if (sorted[sorted.size() / 2] < 3) {
     return 0;
   }
-  auto const first = std::ranges::find_if(filled, [](std::size_t const count) { return count > 1; });
+  auto const first =
+      std::ranges::find_if(filled, [](std::size_t const count) { return count > 1; });
   return static_cast<std::size_t>(first - filled.begin());
 }
 
@@ -200,8 +204,8 @@ std::size_t first_record_behind(reading const& r, std::size_t const header,
   for (std::size_t i = header + 1; i < regular; ++i) {
     auto const fields = r.strategy->field_array()->record(i);
     bool const is_data = fields.size() > 1 && std::ranges::any_of(fields, [&](auto const& field) {
-      return is_typed(look_at(field.view(), r.quote).shape);
-    });
+                           return is_typed(look_at(field.view(), r.quote).shape);
+                         });
     if (is_data) {
       return i;
     }
@@ -225,7 +229,8 @@ header_rows find_header_rows(reading const& r) {
   for (std::size_t row = first; row < std::min(first + candidates, table.rows() - 1); ++row) {
     comparison const c = compare_with_rest(table, row);
     any_typed = any_typed || c.typed_columns > 0;
-    if (is_header_by_types(c) || (row == first && counts_up(table, row) && !counts_up(table, row + 1))) {
+    if (is_header_by_types(c) ||
+        (row == first && counts_up(table, row) && !counts_up(table, row + 1))) {
       first_header = first_header.value_or(row);
       last_header = row;
     }
@@ -236,7 +241,8 @@ header_rows find_header_rows(reading const& r) {
   }
   if (last_header) {
     found.names = table.record(*first_header);
-    found.first_data = first_record_behind(r, table.record(*last_header), table.record(*last_header + 1));
+    found.first_data =
+        first_record_behind(r, table.record(*last_header), table.record(*last_header + 1));
   }
   return found;
 }

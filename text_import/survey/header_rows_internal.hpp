@@ -12,8 +12,8 @@
 namespace textimport::survey {
 
 struct header_rows {
-  std::size_t first_data = 0;               ///< record
-  std::optional<std::size_t> names;         ///< record
+  std::size_t first_data = 0;        ///< record
+  std::optional<std::size_t> names;  ///< record
 };
 
 [[nodiscard]] header_rows find_header_rows(reading const& r);

@@ -98,14 +98,17 @@ bool has_apostrophe_quotes(sample_lines const& lines) {
 std::vector<hypothesis> propose_hypotheses(sample_lines const& lines,
                                            survey_options const& options) {
   std::vector<hypothesis> hypotheses{{"as given", options.parsing}};
+  if (!options.given.decimal_mark) {
+    hypotheses.front().parsing.decimal_separator = u'.';  // which delimits next to nothing
+  }
   char16_t const quote = quote_of(options.parsing);
   if (!options.given.quote) {
     if (quote != 0 && has_odd_quotes(lines, quote)) {
-      hypotheses.push_back({"quotes are ordinary characters", options.parsing});
+      hypotheses.push_back({"quotes are ordinary characters", hypotheses.front().parsing});
       hypotheses.back().parsing.quote_characters.clear();
     }
     if (quote != u'\'' && has_apostrophe_quotes(lines)) {
-      hypotheses.push_back({"apostrophes are quotes", options.parsing});
+      hypotheses.push_back({"apostrophes are quotes", hypotheses.front().parsing});
       hypotheses.back().parsing.quote_characters = u"'";
     }
   }

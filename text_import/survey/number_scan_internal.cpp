@@ -10,9 +10,13 @@ namespace {
 
 using view = std::u16string_view;
 
-constexpr bool is_digit(char16_t const c) noexcept { return c >= u'0' && c <= u'9'; }
+constexpr bool is_digit(char16_t const c) noexcept {
+  return c >= u'0' && c <= u'9';
+}
 
-bool is_one_of(char16_t const c, view const set) noexcept { return set.find(c) != view::npos; }
+bool is_one_of(char16_t const c, view const set) noexcept {
+  return set.find(c) != view::npos;
+}
 
 /// Takes a number apart from left to right.
 class number_scan {

@@ -45,7 +45,8 @@ void place_records(reading& r, sample_lines const& lines) {
       last_line = lines.line_at(static_cast<std::size_t>(last.data() - text) + last.length());
       r.longest_record = std::max(r.longest_record, last_line - line + 1);
     }
-    bool const is_blank = record.empty() || (record.size() == 1 && trimmed(record[0].view()).empty());
+    bool const is_blank =
+        record.empty() || (record.size() == 1 && trimmed(record[0].view()).empty());
     r.records.push_back({line, is_blank ? 0 : record.size()});
     r.filled_records += is_blank ? 0U : 1U;
     next_line = last_line + 1;
@@ -148,8 +149,8 @@ constexpr std::size_t columns_judged = 40;
 
 }  // namespace
 
-reading measure_records(std::shared_ptr<textio::GenericStrategy> strategy, sample_lines const& lines,
-                        column_profile const* const profile) {
+reading measure_records(std::shared_ptr<textio::GenericStrategy> strategy,
+                        sample_lines const& lines, column_profile const* const profile) {
   reading r;
   r.strategy = std::move(strategy);
   r.layout = layout_of(r.strategy->mode());
@@ -178,11 +179,13 @@ std::optional<reading> measure_last_block(reading const& r) {
 void measure_values(reading& r) {
   FieldArray const& fields = *r.strategy->field_array();
   std::size_t const columns = std::min(r.block.columns, columns_judged);
+
   struct column_count {
     std::size_t filled = 0;
     std::size_t typed = 0;
     std::size_t names = 0;  // texts in the first record
   };
+
   std::vector<column_count> counts(columns);
   double weights = 0;
   std::size_t broken = 0;
@@ -215,7 +218,8 @@ void measure_values(reading& r) {
   for (column_count const& count : counts) {
     typed += count.typed;
     r.filled_columns += count.filled > 0 ? 1U : 0U;
-    r.typed_columns += count.typed > 0 && count.typed * 5 >= (count.filled - count.names) * 4 ? 1U : 0U;
+    r.typed_columns +=
+        count.typed > 0 && count.typed * 5 >= (count.filled - count.names) * 4 ? 1U : 0U;
   }
   if (filled > 0) {
     r.empty_share = 1 - static_cast<double>(filled) / static_cast<double>(looked_at);

@@ -43,10 +43,10 @@ struct reading {
   std::vector<record_place> records;
   std::size_t filled_records = 0;
   table_block block;
-  double agreement = 0;    ///< of the column profile; fixed widths only
-  double coverage = 0;     ///< regular records, as a share of all filled ones
-  double regularity = 0;   ///< the same inside the block
-  double soundness = 0;    ///< how well the values hold together, 0 to 1
+  double agreement = 0;     ///< of the column profile; fixed widths only
+  double coverage = 0;      ///< regular records, as a share of all filled ones
+  double regularity = 0;    ///< the same inside the block
+  double soundness = 0;     ///< how well the values hold together, 0 to 1
   double broken_share = 0;  ///< values that a wrong cut seems to have left
   double empty_share = 0;   ///< fields that are empty
   double typed_share = 0;   ///< values that say more than text

@@ -26,12 +26,14 @@ using delimiter_list = std::vector<std::u16string>;
 constexpr std::size_t lines_profiled = 2000;
 
 /// Whether characters of one kind stand below each other as they do in columns of fixed width. The
-/// less the positions agree, the more the lengths have to.
+/// less the positions agree, and the fewer lines there are, the more the lengths have to.
 bool is_columnar(column_profile const& profile) {
   double const agreement = profile.agreement();
   double const equal = profile.equal_lengths();
+  double const required_equal = profile.num_lines() < 30 ? 0.75 : 0.6;
   bool const is_long_enough = profile.num_lines() >= 4;
-  return is_long_enough && ((agreement >= 0.5 && equal >= 0.6) || (agreement >= 0.2 && equal >= 0.95));
+  return is_long_enough &&
+         ((agreement >= 0.5 && equal >= required_equal) || (agreement >= 0.2 && equal >= 0.95));
 }
 
 /// Fills the list of one survey.
@@ -43,7 +45,8 @@ class reading_collector {
   void ask_library(hypothesis const& asked) {
     DetectionReport report;
     textio::detection::StrategySelector selector(asked.parsing, options_.types);
-    static_cast<void>(selector.pick_strategy(textio::Field(lines_.text()), options_.records, report));
+    static_cast<void>(
+        selector.pick_strategy(textio::Field(lines_.text()), options_.records, report));
     for (auto const& sampled : report.sampled) {
       add(sampled.strategy);
     }
@@ -63,7 +66,8 @@ class reading_collector {
       evaluate<SpaceAlignedStrategy>(asked);
     } else if (options_.layout == table_layout::delimited) {
       ask_library(asked);
-      std::erase_if(readings_, [](reading const& r) { return r.layout != table_layout::delimited; });
+      std::erase_if(readings_,
+                    [](reading const& r) { return r.layout != table_layout::delimited; });
       if (readings_.empty()) {
         evaluate<DelimitedStrategy>(asked, delimiter_list{u","});
       }
@@ -99,7 +103,8 @@ class reading_collector {
   [[nodiscard]] bool is_explained() const {
     return std::ranges::any_of(readings_, [](reading const& r) {
       constexpr std::u16string_view usual = u",\t;|";
-      bool const is_usual = r.delimiter.size() == 1 && usual.find(r.delimiter.front()) != usual.npos;
+      bool const is_usual =
+          r.delimiter.size() == 1 && usual.find(r.delimiter.front()) != usual.npos;
       return is_usual && r.coverage >= 0.9 && r.block.columns >= 3;
     });
   }
@@ -140,7 +145,8 @@ std::vector<reading> collect_readings(sample_lines const& lines,
     is_bound ? collector.read_as_given(asked) : collector.ask_library(asked);
     collector.next_hypothesis();
   }
-  bool const is_fixed = given.layout && options.layout == table_layout::fixed_width && !given.widths;
+  bool const is_fixed =
+      given.layout && options.layout == table_layout::fixed_width && !given.widths;
   if (is_fixed || (!is_bound && !collector.is_explained())) {
     collector.read_fixed_width(is_fixed);
   }

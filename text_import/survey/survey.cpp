@@ -57,8 +57,8 @@ class surveyor {
     for (std::size_t i = 0; i < readings_.size(); ++i) {
       reading const& r = readings_[i];
       found_.candidates.push_back({hypotheses_[r.hypothesis].name, r.layout, r.delimiter,
-                                   r.block.columns, r.coverage, r.soundness,
-                                   weighed.fates[i].rule, weighed.fates[i].measure});
+                                   r.block.columns, r.coverage, r.soundness, weighed.fates[i].rule,
+                                   weighed.fates[i].measure});
     }
   }
 
@@ -74,9 +74,9 @@ class surveyor {
       found_.data_ends_at = lines_.count();
       return;
     }
-    survey::header_rows const rows =
-        options_.given.header_lines ? rows_behind(r, options_.parsing.header_lines)
-                                    : find_header_rows(r);
+    survey::header_rows const rows = options_.given.header_lines
+                                         ? rows_behind(r, options_.parsing.header_lines)
+                                         : find_header_rows(r);
     auto around = look_around(r, rows, lines_);
     found_.data_starts_at = around.data_starts_at;
     found_.data_ends_at = around.data_ends_at;
@@ -91,9 +91,8 @@ class surveyor {
   void take_surroundings(survey::surroundings&& around, std::size_t const num_records) {
     bool const sees_end = !options_.goes_on && num_records < options_.records;
     if (!sees_end) {
-      std::erase_if(around.lines, [&](noted_line const& noted) {
-        return noted.line >= around.data_ends_at;
-      });
+      std::erase_if(around.lines,
+                    [&](noted_line const& noted) { return noted.line >= around.data_ends_at; });
       found_.data_ends_at.reset();
     }
     found_.lines = std::move(around.lines);

@@ -9,7 +9,9 @@ namespace {
 
 using view = std::u16string_view;
 
-constexpr bool is_second_half(char16_t const c) noexcept { return c >= 0xDC00 && c <= 0xDFFF; }
+constexpr bool is_second_half(char16_t const c) noexcept {
+  return c >= 0xDC00 && c <= 0xDFFF;
+}
 
 std::size_t count_utf8_bytes(view const text) noexcept {
   std::size_t bytes = 0;
@@ -35,8 +37,9 @@ std::optional<std::size_t> count_bytes(view const text, std::string_view const e
   if (encoding.starts_with("UTF-32")) {
     return 4 * count_characters(text);
   }
-  bool const is_single_byte = encoding.starts_with("windows-") || encoding.starts_with("ISO-8859-") ||
-                              encoding.starts_with("KOI8") || encoding.starts_with("IBM");
+  bool const is_single_byte = encoding.starts_with("windows-") ||
+                              encoding.starts_with("ISO-8859-") || encoding.starts_with("KOI8") ||
+                              encoding.starts_with("IBM");
   return is_single_byte || is_ascii(text) ? std::optional(text.size()) : std::nullopt;
 }
 

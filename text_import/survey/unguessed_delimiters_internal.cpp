@@ -83,8 +83,8 @@ bool is_doubled(sample_lines const& lines, char16_t const c) {
 
 }  // namespace
 
-std::vector<std::u16string> unguessed_delimiters(
-    sample_lines const& lines, textio::detection::DetectionReport const& report) {
+std::vector<std::u16string> unguessed_delimiters(sample_lines const& lines,
+                                                 textio::detection::DetectionReport const& report) {
   std::vector<std::u16string> delimiters;
   for (char16_t const c : view(u",\t;|")) {
     if (!was_sampled(report, c) && lines.text().find(c) != view::npos) {

@@ -16,7 +16,9 @@ namespace {
 
 using view = std::u16string_view;
 
-constexpr bool is_digit(char16_t const c) noexcept { return c >= u'0' && c <= u'9'; }
+constexpr bool is_digit(char16_t const c) noexcept {
+  return c >= u'0' && c <= u'9';
+}
 
 constexpr char16_t lower(char16_t const c) noexcept {
   return c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c + 32) : c;
@@ -24,19 +26,20 @@ constexpr char16_t lower(char16_t const c) noexcept {
 
 template <std::size_t n>
 bool is_one_of(view const text, std::array<view, n> const& words) noexcept {
-  return std::ranges::any_of(words, [&](view const word) {
-    return std::ranges::equal(text, word, {}, lower, lower);
-  });
+  return std::ranges::any_of(
+      words, [&](view const word) { return std::ranges::equal(text, word, {}, lower, lower); });
 }
 
 bool is_missing_word(view const text) noexcept {
-  static constexpr std::array<view, 14> words{u"na",  u"n/a", u"null", u"nil", u"none", u"nan", u"#n/a",
-                                              u"\\n", u"-",   u"--",   u"?",   u".",    u"*",   u"missing"};
+  static constexpr std::array<view, 14> words{u"na",  u"n/a",  u"null", u"nil",    u"none",
+                                              u"nan", u"#n/a", u"\\n",  u"-",      u"--",
+                                              u"?",   u".",    u"*",    u"missing"};
   return text.size() <= 7 && is_one_of(text, words);
 }
 
 bool is_infinity(view const text) noexcept {
-  static constexpr std::array<view, 6> words{u"inf",  u"infinity", u"+inf", u"+infinity", u"-inf", u"-infinity"};
+  static constexpr std::array<view, 6> words{u"inf",       u"infinity", u"+inf",
+                                             u"+infinity", u"-inf",     u"-infinity"};
   return text.size() <= 9 && is_one_of(text, words);
 }
 
@@ -68,7 +71,8 @@ bool is_duration(view const text) noexcept {
   if (colons == 0 || colons > 3 || digits == 0) {
     return false;
   }
-  return pos == text.size() || (text[pos] == u'.' && text.find_first_not_of(u"0123456789", pos + 1) == view::npos);
+  return pos == text.size() ||
+         (text[pos] == u'.' && text.find_first_not_of(u"0123456789", pos + 1) == view::npos);
 }
 
 bool may_be_date(view const text) noexcept {
@@ -119,7 +123,8 @@ bool has_foreign_delimiter(view const text) noexcept {
   for (std::size_t i = 0; i < text.size(); ++i) {
     char16_t const c = text[i];
     bool const is_last = i + 1 == text.size();
-    if (c == u'\t' || c == u'|' || (c == u';' && !is_last && text[i + 1] != u' ') || (c < 32 && c != u'\n' && c != u'\r')) {
+    if (c == u'\t' || c == u'|' || (c == u';' && !is_last && text[i + 1] != u' ') ||
+        (c < 32 && c != u'\n' && c != u'\r')) {
       return true;
     }
     if (c == u',' && (is_last || text[i + 1] != u' ')) {
@@ -134,8 +139,8 @@ value_shape shape_of_text(view const text) noexcept {
   if (is_address) {
     return value_shape::word;
   }
-  if (text.find(u"   ") != view::npos || has_foreign_delimiter(text) || has_odd_brackets(text) || is_run_together(text) ||
-      std::ranges::count(text, u'"') % 2 != 0) {
+  if (text.find(u"   ") != view::npos || has_foreign_delimiter(text) || has_odd_brackets(text) ||
+      is_run_together(text) || std::ranges::count(text, u'"') % 2 != 0) {
     return value_shape::broken;
   }
   return text.find(u' ') == view::npos ? value_shape::word : value_shape::phrase;
@@ -164,7 +169,8 @@ value_look look_inside(view const text) {
     look.shape = value_shape::binary;
   } else if (is_complex(text)) {
     look.shape = value_shape::complex_number;
-  } else if (may_be_date(text) && ostrel::io::text::typeconversion::is_datetime(textio::Field(text), {})) {
+  } else if (may_be_date(text) &&
+             ostrel::io::text::typeconversion::is_datetime(textio::Field(text), {})) {
     look.shape = text.find(u':') == view::npos ? value_shape::date : value_shape::date_time;
   } else {
     look.shape = shape_of_text(text);
@@ -176,7 +182,8 @@ value_look look_inside(view const text) {
 
 view unquoted(view const field, char16_t const quote) noexcept {
   view const text = trimmed(field);
-  bool const is_quoted = quote != 0 && text.size() >= 2 && text.front() == quote && text.back() == quote;
+  bool const is_quoted =
+      quote != 0 && text.size() >= 2 && text.front() == quote && text.back() == quote;
   return is_quoted ? trimmed(text.substr(1, text.size() - 2)) : text;
 }
 

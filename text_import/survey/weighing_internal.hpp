@@ -18,8 +18,8 @@ struct reading_fate {
 };
 
 struct weighing {
-  std::vector<reading_fate> fates;     ///< one for each reading
-  std::optional<std::size_t> winner;   ///< none when each line is a value
+  std::vector<reading_fate> fates;    ///< one for each reading
+  std::optional<std::size_t> winner;  ///< none when each line is a value
 };
 
 /// Measures the values of the readings that come so far, and lets the rules decide. `is_bound`: the

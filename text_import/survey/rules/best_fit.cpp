@@ -10,7 +10,9 @@ namespace textimport::survey {
 
 namespace {
 
-double fit(reading const& r) { return r.coverage * r.soundness; }
+double fit(reading const& r) {
+  return r.coverage * r.soundness;
+}
 
 kept_readings apply(kept_readings const& kept, std::vector<reading> const& readings) {
   constexpr double about_as_much = 0.98;
@@ -18,8 +20,7 @@ kept_readings apply(kept_readings const& kept, std::vector<reading> const& readi
   for (std::size_t const i : kept) {
     best = std::max(best, fit(readings[i]));
   }
-  return keep_if(kept, readings,
-                 [&](reading const& r) { return fit(r) >= about_as_much * best; });
+  return keep_if(kept, readings, [&](reading const& r) { return fit(r) >= about_as_much * best; });
 }
 
 }  // namespace

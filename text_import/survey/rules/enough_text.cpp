@@ -2,7 +2,8 @@
 //
 // A table makes up much of its text. Titles and notes may stand around it, but what covers little
 // of the text has to be flawless, stand at the end, where data stand, and say more than text. With
-// blanks, which split any prose, even the larger part of a text has to say more than text.
+// blanks, which split any prose, even the larger part of a text has to say more than text, and
+// words alone have to stand in threes on nearly every line.
 #include "text_import/survey/rules/delimiter_class_internal.hpp"
 #include "text_import/survey/rules/survey_rule_internal.hpp"
 
@@ -24,6 +25,9 @@ bool is_enough(reading const& r) {
       if (r.filled_records == 1) {
         return r.typed_columns >= 2;
       }
+      if (r.typed_share < 0.2) {
+        return r.coverage >= 0.95 && r.filled_columns >= 3 && r.block.regular >= 5;
+      }
       return r.coverage >= 0.8 ||
              (is_data && ((r.coverage >= 0.5 && r.block.regular > 2) || is_flawless_end(r)));
     case delimiter_class::rare:
@@ -35,11 +39,10 @@ bool is_enough(reading const& r) {
 
 }  // namespace
 
-survey_rule const enough_text{
-    "enough_text",
-    [](kept_readings const& kept, std::vector<reading> const& readings) {
-      return keep_if(kept, readings, is_enough);
-    },
-    [](reading const& r) { return r.coverage; }};
+survey_rule const enough_text{"enough_text",
+                              [](kept_readings const& kept, std::vector<reading> const& readings) {
+                                return keep_if(kept, readings, is_enough);
+                              },
+                              [](reading const& r) { return r.coverage; }};
 
 }  // namespace textimport::survey

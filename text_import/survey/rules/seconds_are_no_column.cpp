@@ -10,14 +10,16 @@ namespace textimport::survey {
 
 namespace {
 
-bool is_digit(char16_t const c) { return c >= u'0' && c <= u'9'; }
+bool is_digit(char16_t const c) {
+  return c >= u'0' && c <= u'9';
+}
 
 /// "...:01" in front of "250 INFO".
 bool splits_seconds(std::u16string_view const first, std::u16string_view const second) {
   bool const ends_in_seconds = first.size() >= 8 && first[first.size() - 3] == u':' &&
                                is_digit(first[first.size() - 2]) && is_digit(first.back());
-  return ends_in_seconds && second.size() > 3 && std::all_of(second.begin(), second.begin() + 3, is_digit) &&
-         !is_digit(second[3]);
+  return ends_in_seconds && second.size() > 3 &&
+         std::all_of(second.begin(), second.begin() + 3, is_digit) && !is_digit(second[3]);
 }
 
 bool has_real_columns(reading const& r) {

@@ -9,9 +9,7 @@ namespace textimport::survey {
 survey_rule const several_columns{
     "several_columns",
     [](kept_readings const& kept, std::vector<reading> const& readings) {
-      return keep_if(kept, readings, [](reading const& r) {
-        return r.filled_columns >= 2;
-      });
+      return keep_if(kept, readings, [](reading const& r) { return r.filled_columns >= 2; });
     },
     [](reading const& r) { return static_cast<double>(r.filled_columns); }};
 

@@ -21,12 +21,12 @@ double required_soundness(reading const& r) {
 
 }  // namespace
 
-survey_rule const sound_values{
-    "sound_values",
-    [](kept_readings const& kept, std::vector<reading> const& readings) {
-      return keep_if(kept, readings,
-                     [](reading const& r) { return r.soundness >= required_soundness(r); });
-    },
-    [](reading const& r) { return r.soundness; }};
+survey_rule const sound_values{"sound_values",
+                               [](kept_readings const& kept, std::vector<reading> const& readings) {
+                                 return keep_if(kept, readings, [](reading const& r) {
+                                   return r.soundness >= required_soundness(r);
+                                 });
+                               },
+                               [](reading const& r) { return r.soundness; }};
 
 }  // namespace textimport::survey

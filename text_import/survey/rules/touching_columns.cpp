@@ -13,7 +13,9 @@ namespace textimport::survey {
 
 namespace {
 
-bool is_flawless(reading const& r) { return r.regularity >= 0.97 && r.broken_share < 0.02; }
+bool is_flawless(reading const& r) {
+  return r.regularity >= 0.97 && r.broken_share < 0.02;
+}
 
 kept_readings apply(kept_readings const& kept, std::vector<reading> const& readings) {
   auto const is_fixed = [&](std::size_t const i) {
@@ -25,9 +27,11 @@ kept_readings apply(kept_readings const& kept, std::vector<reading> const& readi
   kept_readings left = keep_if(kept, readings, [](reading const& r) {
     return class_of(r) != delimiter_class::blank || is_flawless(r);
   });
-  bool const is_explained = std::ranges::any_of(left, [&](std::size_t const i) { return !is_fixed(i); });
+  bool const is_explained =
+      std::ranges::any_of(left, [&](std::size_t const i) { return !is_fixed(i); });
   if (is_explained) {
-    left = keep_if(left, readings, [](reading const& r) { return class_of(r) != delimiter_class::none; });
+    left = keep_if(left, readings,
+                   [](reading const& r) { return class_of(r) != delimiter_class::none; });
   }
   return left;
 }

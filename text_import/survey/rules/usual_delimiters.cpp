@@ -24,7 +24,8 @@ kept_readings apply(kept_readings const& kept, std::vector<reading> const& readi
   if (kept.empty()) {
     return kept;
   }
-  return {*std::ranges::min_element(kept, {}, [&](std::size_t const i) { return rank(readings[i]); })};
+  return {
+      *std::ranges::min_element(kept, {}, [&](std::size_t const i) { return rank(readings[i]); })};
 }
 
 }  // namespace
