@@ -2,8 +2,6 @@
 
 #include "cli/report.hpp"
 
-#include <algorithm>
-
 #include <fmt/format.h>
 
 #include "cli/display_text.hpp"
@@ -24,26 +22,27 @@ using textio::enums::StrategyMode;
 
 constexpr std::size_t table_indent = 4;
 
-/// The names of the columns, as far as there are any; else their positions.
-std::vector<std::u16string> column_names(textimport::survey_findings const& findings) {
+/// The names of the columns; empty when there are none.
+std::vector<std::u16string> column_names(Answer const& answer) {
   std::vector<std::u16string> names;
-  for (auto const& column : findings.columns) {
-    names.push_back(column.name.empty() ? *from_utf8(std::to_string(names.size() + 1))
-                                        : column.name);
+  if (answer.survey && answer.survey->has_names) {
+    for (auto const& column : answer.survey->columns) {
+      names.push_back(column.name);
+    }
   }
   return names;
 }
 
+/// The columns under their names, or under their types where there are no names.
 std::vector<TableColumn> table_columns(Answer const& answer) {
+  auto names = column_names(answer);
+  bool const has_names = !names.empty();
+  names.resize(answer.column_types.size());
   std::vector<TableColumn> columns;
-  for (ColumnType const type : answer.column_types) {
-    columns.push_back({*from_utf8(type_word(type)), type == ColumnType::Number});
-  }
-  if (answer.survey && columns.size() > 1) {
-    auto const names = column_names(*answer.survey);
-    for (std::size_t column = 0; column < std::min(columns.size(), names.size()); ++column) {
-      columns[column].heading = names[column];
-    }
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    ColumnType const type = answer.column_types[i];
+    columns.push_back(
+        {has_names ? names[i] : *from_utf8(type_word(type)), type == ColumnType::Number});
   }
   return columns;
 }
@@ -54,9 +53,8 @@ std::string rows_text(Answer const& answer, Preview const& preview, Settings con
     return aligned_table(table_columns(answer), preview.rows, space);
   }
   auto const& widths = answer.strategy->options().column_widths;
-  std::vector<std::u16string> names;
-  if (answer.survey && answer.survey->has_names) {
-    names = column_names(*answer.survey);
+  auto names = column_names(answer);
+  if (!names.empty()) {
     names.resize(widths.size());
   }
   return ruled_table(widths, names, preview.rows, space);

@@ -60,13 +60,12 @@ std::optional<Violation> find_violation(Answer const& answer, Settings const& se
   auto const mode = answer.strategy->mode();
   std::size_t pos = answer.data_begin;
   std::size_t consumed = 0;
-  if (broken_rule(options, mode, answer.data(), settings.records, consumed).empty()) {
+  if (broken_rule(options, mode, answer.sample.substr(pos), settings.records, consumed).empty()) {
     return std::nullopt;
   }
   // Once more, record by record: the errors do not say where they happened.
-  while (pos < answer.data_end) {
-    std::string const broken =
-        broken_rule(options, mode, answer.sample.substr(pos, answer.data_end - pos), 1, consumed);
+  while (pos < answer.sample.size()) {
+    std::string const broken = broken_rule(options, mode, answer.sample.substr(pos), 1, consumed);
     if (!broken.empty() || consumed == 0) {
       return Violation{.line = line_at(answer.sample.substr(0, pos)), .message = broken};
     }

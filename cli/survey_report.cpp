@@ -78,7 +78,7 @@ void add_noted_lines(FactLines& lines, std::string_view const where,
   }
   lines.add(where, fmt::format("{} line{}", noted.size(), noted.size() == 1 ? "" : "s"));
   for (std::size_t i = 0; i < noted.size(); ++i) {
-    if (noted.size() > most && i == most_at_top) {
+    if (noted.size() > most + 1 && i == most_at_top) {
       i = noted.size() - (most - most_at_top);
       lines.text() += fmt::format("         ({} more)\n", i - most_at_top);
     }
