@@ -23,26 +23,12 @@ using textio::FieldArray;
 using textio::detection::DetectionReport;
 namespace fs = std::filesystem;
 
-fs::path const folder = TFD_SAMPLES_FOLDER;
+fs::path const folder = fs::path(TFD_TESTS_FOLDER) / "samples";
 
 std::string read_file(fs::path const& path) {
   std::ifstream file(path, std::ios::binary);
   EXPECT_TRUE(file) << path;
   return {std::istreambuf_iterator<char>(file), {}};
-}
-
-/// For samples, which are well-formed and hold nothing above U+FFFF.
-std::u16string to_utf16(std::string const& utf8) {
-  std::u16string text;
-  for (std::size_t i = 0; i < utf8.size();) {
-    auto const byte = static_cast<unsigned char>(utf8[i++]);
-    unsigned point = byte < 0x80 ? byte : byte < 0xE0 ? byte & 0x1FU : byte & 0x0FU;
-    for (unsigned rest = byte < 0x80 ? 0 : byte < 0xE0 ? 1 : 2; rest > 0; --rest) {
-      point = point << 6U | (static_cast<unsigned char>(utf8.at(i++)) & 0x3FU);
-    }
-    text += static_cast<char16_t>(point);
-  }
-  return text;
 }
 
 /// The names of the files with this ending, without it.
@@ -96,7 +82,7 @@ void expect_sound(DetectionReport const& report, std::u16string_view const text)
 class Sample : public testing::TestWithParam<std::string> {};
 
 TEST_P(Sample, IsDetected) {
-  std::u16string text = to_utf16(read_file(folder / (GetParam() + ".txt")));
+  std::u16string text = support::to_utf16(read_file(folder / (GetParam() + ".txt")));
   DetectionReport report;
   std::string const decision = detect(text, report);
   EXPECT_EQ(decision, read_file(folder / (GetParam() + ".expect")));

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/table.hpp"
 #include "tests/support/text.hpp"
 
 namespace {
@@ -22,25 +23,11 @@ std::string matches(Strings const& strings, std::u16string_view const text) {
 }
 
 TEST(DelimiterMatcher, Matches) {
-  for (auto const& [strings, text, lengths, first_units] :
-       support::Rows<Strings, std::u16string_view, std::string_view, std::u16string_view>{
-           {{u","}, u",a,,", "10110", u","},
-           {{u"\r\n", u"\n", u"\r"}, u"\r\n\n\ra", "211100", u"\r\n"},
-           {{u"\r", u"\r\n"}, u"\r\n", "100", u"\r"},
-           {{u"ab", u"abc", u"b"}, u"abcab", "210210", u"ab"},
-           {{u"abc"}, u"ababc", "003000", u"a"},
-           {{u"abc"}, u"xab", "0000", u"a"},  // does not fit in what is left
-           {{u"", u"b", u""}, u"ab", "010", u"b"},
-           {{u""}, u"a", "00", u""},
-           {{}, u"a", "00", u""},
-           // the end mark is no text
-           {{u"\uFFFF"}, u"a\uFFFF", "000", u"\uFFFF"},
-           {{u"a\uFFFF", u"b"}, u"a\uFFFFb", "0010", u"b"},
-       }) {
-    EXPECT_EQ(matches(strings, text), lengths) << support::show(text);
-    EXPECT_EQ(support::show(textio::get_or_create_delim(strings)->first_units()),
-              support::show(first_units));
-  }
+  support::for_each_row("platform/delimiter_matcher.tsv", [](support::Row const& row) {
+    auto const strings = support::value_of<Strings>(row.value(0));
+    EXPECT_EQ(matches(strings, row.text(1)), row.cells.at(2));
+    EXPECT_EQ(support::show(textio::get_or_create_delim(strings)->first_units()), row.cells.at(3));
+  });
 }
 
 }  // namespace

@@ -24,19 +24,13 @@ std::string show_fate(SampledStrategy const& sampled) {
     case CandidateFate::Accepted:
       return "#" + std::to_string(sampled.candidate.value());
     case CandidateFate::Rejected:
-      return name_of(std::array{"none", "uncommon delimiter", "one field", "irregular record",
-                                "irregular", "one field a record"},
-                     sampled.clause);
+      return show_rejection(sampled.clause);
     case CandidateFate::LessTyped:
       return "less typed";
     case CandidateFate::ReplacedByFixedWidth:
       return "replaced";
   }
   return "?";
-}
-
-std::string show_count(std::size_t const count) {
-  return count == textio::unknown_count ? "unknown" : std::to_string(count);
 }
 
 std::string show_line(std::string const& key, std::string const& value) {
@@ -57,6 +51,12 @@ std::string show_layout(GenericStrategy const& strategy) {
     }
   }
   return text;
+}
+
+std::string show_rejection(textio::detection::RejectionClause const clause) {
+  return name_of(std::array{"none", "uncommon delimiter", "one field", "irregular record",
+                            "irregular", "one field a record"},
+                 clause);
 }
 
 std::string show_sampled(DetectionReport const& report) {

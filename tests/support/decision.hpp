@@ -12,6 +12,9 @@ namespace support {
 /// The layout and what it is made of: "delimited <,>", "space-aligned", "fixed-width 4 6", "lines".
 [[nodiscard]] std::string show_layout(textio::GenericStrategy const& strategy);
 
+/// What the acceptance test says against a strategy: "none", "irregular" ...
+[[nodiscard]] std::string show_rejection(textio::detection::RejectionClause clause);
+
 /// What became of every sampled strategy, and its position in the candidate list.
 [[nodiscard]] std::string show_sampled(textio::detection::DetectionReport const& report);
 

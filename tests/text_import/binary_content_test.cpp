@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/text_import/made_data.hpp"
+#include "tests/text_import/tables.hpp"
 #include "text_import/source/binary_content_internal.hpp"
 
 namespace textimport {
@@ -15,12 +16,12 @@ using made::outcome;
 using made::read_all;
 
 TEST(binary_content, is_named_and_is_not_what_only_begins_alike) {
-  for (auto const& row : made::rows_of("binary_content.tsv")) {
+  made::for_each_row("binary_content.tsv", [&](made::cells const& row) {
     outcome const read = read_all(row[0]);
     SCOPED_TRACE(row[1] + " " + row[0] + ": " + read.message);
     EXPECT_EQ(read.error, row[1] == "text" ? "" : "binary_content");
     EXPECT_TRUE(row[1] == "text" || read.message.find(row[1]) != std::string::npos);
-  }
+  });
   EXPECT_EQ(read_all(made::zip({{"[Content_Types].xml", "<x/>"}})).error, "binary_content");
   EXPECT_EQ(read_all(std::string(257, 'a') + "ustar\0"s).error, "binary_content");
 }

@@ -8,9 +8,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include "tests/text_import/made_data.hpp"
@@ -74,11 +72,6 @@ TEST_F(files, that_cannot_be_opened_are_told_apart) {
   }
 }
 
-TEST_F(files, are_opened_by_names_of_any_bytes) {
-  std::string const path = write("\xFF\xFE \n:x", "a,b\n");
-  EXPECT_EQ(text_source::open(path).path(), path);
-}
-
 TEST_F(files, before_a_colon_are_archives_of_a_member) {
   std::string const archive = write("a.zip", made::zip({{"m", "1\n"}, {"n:o", "2\n"}}));
   std::filesystem::create_directory(folder_ + "/d");
@@ -91,26 +84,6 @@ TEST_F(files, before_a_colon_are_archives_of_a_member) {
   EXPECT_EQ(text_source::open(folder_ + "/d:e.zip:m").sample().view(), u"4\n") << "d is a folder";
   EXPECT_EQ(open_error(archive + ":x"), "member_not_found 0");
   EXPECT_EQ(open_error(folder_ + "/none:m"), "file_not_found " + std::to_string(ENOENT));
-}
-
-TEST_F(files, and_standard_input_give_the_same_text) {
-  std::string const text = made::table_of(100000);
-  int ends[2];
-  ASSERT_EQ(::pipe(ends), 0);
-  int const saved = ::dup(STDIN_FILENO);
-  ASSERT_EQ(::dup2(ends[0], STDIN_FILENO), STDIN_FILENO);
-  std::string const packed = made::packed("gzip", text);  // smaller than a pipe
-  ASSERT_LT(packed.size(), 60000U);
-  ASSERT_EQ(::write(ends[1], packed.data(), packed.size()), static_cast<ssize_t>(packed.size()));
-  ::close(ends[1]);
-  auto const piped = made::read_all(open_bytes("-"));
-  EXPECT_NE(::fcntl(STDIN_FILENO, F_GETFD), -1) << "standard input stays open";
-  ::dup2(saved, STDIN_FILENO);
-  ::close(saved);
-  ::close(ends[0]);
-  auto const read = made::read_all(open_bytes(write("file", packed)));
-  EXPECT_TRUE(read.whole == made::utf16(text) && piped.whole == read.whole);
-  EXPECT_EQ(piped.findings.line_endings.lf, read.findings.line_endings.lf);
 }
 
 /// read(2) as a script: interrupted before every call, pieces of 64 bytes, an error at one call.

@@ -7,6 +7,7 @@
 #include <unicode/ucnv.h>
 
 #include "tests/text_import/made_data.hpp"
+#include "tests/text_import/tables.hpp"
 
 namespace textimport {
 namespace {
@@ -29,10 +30,8 @@ std::string encoded(char const* const encoding, std::string const& utf8) {
 
 TEST(encoding, is_found_in_tables_and_gives_their_text) {
   std::map<std::string, std::string> texts;
-  for (auto const& row : made::rows_of("texts.tsv")) {
-    texts[row[0]] = row[1];
-  }
-  for (auto const& row : made::rows_of("encoding.tsv")) {
+  made::for_each_row("texts.tsv", [&](made::cells const& row) { texts[row[0]] = row[1]; });
+  made::for_each_row("encoding.tsv", [&](made::cells const& row) {
     SCOPED_TRACE(row[0] + " " + row[1] + " " + row[3]);
     std::string const bytes = row[2] + encoded(row[0].c_str(), texts.at(row[3]));
     std::u16string const text = made::utf16(texts.at(row[3]));
@@ -46,19 +45,19 @@ TEST(encoding, is_found_in_tables_and_gives_their_text) {
     options.encoding = row[0];
     options.strict = true;
     EXPECT_TRUE(read_all(bytes, options).whole == text) << "when it is given";
-  }
+  });
 }
 
 TEST(encoding, of_odd_bytes_is_decided_for_a_reason) {
-  for (auto const& row : made::rows_of("encoding_of_odd_bytes.tsv")) {
+  made::for_each_row("encoding_of_odd_bytes.tsv", [&](made::cells const& row) {
     encoding_finding const found = find_encoding(row[0], row[1] == "ends");
     EXPECT_EQ(found.name, row[2]) << row[0];
     EXPECT_EQ(name_of(found.reason), row[3]) << row[0];
-  }
+  });
 }
 
 TEST(encoding, is_given_by_any_of_its_names_or_near_ones_are_proposed) {
-  for (auto const& row : made::rows_of("encoding_given.tsv")) {
+  made::for_each_row("encoding_given.tsv", [&](made::cells const& row) {
     try {
       encoding_finding const found = given_encoding(row[0], row[1], "made");
       EXPECT_EQ(found.name, row[2]) << row[0];
@@ -67,7 +66,7 @@ TEST(encoding, is_given_by_any_of_its_names_or_near_ones_are_proposed) {
       EXPECT_EQ(row[3], "unknown") << error.what();
       EXPECT_NE(error.message().find(row[2]), std::string::npos) << error.message();
     }
-  }
+  });
   for (std::string const& name : encoding_names()) {
     EXPECT_NO_THROW(static_cast<void>(given_encoding(name, "", "made"))) << name;
   }

@@ -3,9 +3,7 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <fstream>
 #include <memory>
-#include <sstream>
 #include <stdexcept>
 
 #include <archive.h>
@@ -49,47 +47,7 @@ std::string write_archive(int (*const set_format)(archive*), int (*const add_fil
   return bytes;
 }
 
-std::string unescaped(std::string const& field) {
-  std::string result;
-  for (std::size_t i = 0; i < field.size(); ++i) {
-    if (field[i] != '\\') {
-      result.push_back(field[i]);
-    } else if (char const kind = field[++i]; kind == 'x') {
-      result.push_back(static_cast<char>(std::stoi(field.substr(i + 1, 2), nullptr, 16)));
-      i += 2;
-    } else if (kind == 'u') {
-      std::size_t const end = field.find('}', i);
-      icu::UnicodeString(std::stoi(field.substr(i + 2, end - i - 2), nullptr, 16))
-          .toUTF8String(result);
-      i = end;
-    } else {
-      result.push_back(kind == 'n' ? '\n' : '\r');
-    }
-  }
-  return result;
-}
-
 }  // namespace
-
-std::vector<std::vector<std::string>> rows_of(char const* const table) {
-  std::ifstream file(std::string(TEXT_IMPORT_TABLES) + "/" + table);
-  std::vector<std::vector<std::string>> rows;
-  for (std::string line; std::getline(file, line);) {
-    if (line.starts_with('#')) {
-      continue;
-    }
-    rows.emplace_back();
-    std::istringstream fields(line);
-    for (std::string field; std::getline(fields, field, '\t');) {
-      rows.back().push_back(unescaped(field));
-    }
-    rows.back().resize(8);
-  }
-  if (rows.empty()) {
-    throw std::runtime_error(std::string("no rows in ") + table);
-  }
-  return rows;
-}
 
 std::string packed(std::string const& format, std::string const& text) {
   if (format == "zip") {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What the tests of the import layer are made of: packed data, tables of cases, and a short
-// way to open and read.
+// What the tests of the import layer are made of: packed data, and a short way to open and read.
 #pragma once
 
 #include <cstddef>
@@ -44,10 +43,6 @@ struct outcome {
 /// Opens and reads to the end.
 outcome read_all(std::unique_ptr<byte_source> bytes, open_options const& options = {});
 outcome read_all(std::string const& bytes, open_options const& options = {});
-
-/// The rows of a file in tables/: UTF-8, fields apart by tabs and filled up with empty ones to
-/// eight; \xHH is a byte, \u{H...} a character, \n and \r are line ends; # begins a comment.
-std::vector<std::vector<std::string>> rows_of(char const* table);
 
 /// UTF-8 to UTF-16, for expected texts.
 std::u16string utf16(std::string const& utf8);

@@ -12,6 +12,7 @@
 #include <malloc.h>
 
 #include "tests/text_import/made_data.hpp"
+#include "tests/text_import/tables.hpp"
 
 namespace {
 
@@ -48,7 +49,7 @@ using made::outcome;
 using made::read_all;
 
 TEST(sample, is_cut_behind_the_last_whole_line_if_the_text_goes_on) {
-  for (auto const& row : made::rows_of("sample_cuts.tsv")) {
+  made::for_each_row("sample_cuts.tsv", [&](made::cells const& row) {
     for (std::size_t const block : {1U, 2U, 3U, 64U}) {
       SCOPED_TRACE(row[0] + " " + row[1]);
       open_options options;
@@ -62,18 +63,18 @@ TEST(sample, is_cut_behind_the_last_whole_line_if_the_text_goes_on) {
       EXPECT_EQ(read.findings.bytes_read, std::min(options.sample_bytes, row[0].size()));
       EXPECT_TRUE(read.whole == read_all(row[0]).sample) << "the stream is the whole text";
     }
-  }
+  });
 }
 
 TEST(sample, has_its_line_ends_and_odd_characters_counted) {
-  for (auto const& row : made::rows_of("counts.tsv")) {
+  made::for_each_row("counts.tsv", [&](made::cells const& row) {
     text_findings const found = read_all(row[0]).findings;
     std::ostringstream counts;
     counts << found.line_endings.lf << ' ' << found.line_endings.crlf << ' '
            << found.line_endings.cr << ' ' << found.nuls << ' ' << found.decoding.bad_bytes << ' '
            << found.decoding.replaced_end_marks;
     EXPECT_EQ(counts.str(), row[1]) << row[0];
-  }
+  });
 }
 
 TEST(stream, goes_on_where_the_sample_ended_with_everything_counted) {
