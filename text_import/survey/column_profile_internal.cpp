@@ -148,6 +148,11 @@ std::vector<std::size_t> column_profile::widths() const {
   return widths.size() < 2 && counts_.size() >= long_line ? widths_of_touching() : widths;
 }
 
+bool column_profile::has_gutters() const {
+  auto const widths = widths_between_blanks();
+  return widths.size() >= 3 && (counts_.size() - widths.back()) * 2 >= usual_length_;
+}
+
 std::vector<std::size_t> column_profile::widths_of_touching() const {
   std::vector<std::size_t> widths;
   std::size_t start = 0;

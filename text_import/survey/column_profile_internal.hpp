@@ -32,6 +32,9 @@ class column_profile {
 
   [[nodiscard]] std::size_t num_lines() const noexcept { return num_lines_; }
 
+  /// Whether blanks that run through all lines part at least three columns, to the right as well.
+  [[nodiscard]] bool has_gutters() const;
+
   /// Whether the line has hardly a character of a kind that is rare at its position.
   [[nodiscard]] bool fits(std::u16string_view line) const noexcept;
 

@@ -42,9 +42,12 @@ class column_summary {
     }
   }
 
-  column_findings finish() {
+  [[nodiscard]] bool has_decimal_comma() const { return commas_ > 0; }
+
+  /// `has_decimal_comma`: of any column of the table.
+  column_findings finish(bool const has_decimal_comma) {
     findings_.quoted = findings_.values > 0 && quoted_ == findings_.values;
-    settle_marks();
+    settle_marks(has_decimal_comma);
     settle_type();
     bool const is_number = findings_.type == value_type::integer ||
                            findings_.type == value_type::real ||
@@ -74,7 +77,7 @@ class column_summary {
 
   void add_marks(number_marks const& marks) {
     if (marks.either) {
-      ++either_;
+      ++(marks.decimal == u'.' ? either_points_ : either_commas_);
       return;
     }
     points_ += marks.decimal == u'.' ? 1U : 0U;
@@ -84,17 +87,28 @@ class column_summary {
     }
   }
 
-  /// "1,234" is a whole number unless a value like "1,5" shows what its comma is.
-  void settle_marks() {
+  void move_shapes(value_shape const from, value_shape const to, std::size_t const count) {
+    shapes_[static_cast<std::size_t>(from)] -= count;
+    shapes_[static_cast<std::size_t>(to)] += count;
+  }
+
+  /// "1,234" is a whole number unless a value like "1,5" shows what its comma is; "1.234" is none,
+  /// unless another column shows that the decimal mark is the comma.
+  void settle_marks(bool const has_decimal_comma) {
     if (commas_ > points_) {
       findings_.decimal_mark = u',';
-      shapes_[static_cast<std::size_t>(value_shape::integer)] -= either_;
-      shapes_[static_cast<std::size_t>(value_shape::real)] += either_;
+      move_shapes(value_shape::integer, value_shape::real, either_commas_);
+    } else if (either_commas_ > 0) {
+      findings_.thousands_mark = u',';
+    }
+    if (either_points_ == 0 && points_ == 0) {
       return;
     }
-    findings_.decimal_mark = points_ > 0 ? u'.' : u'\0';
-    if (either_ > 0) {
-      findings_.thousands_mark = u',';
+    if (points_ == 0 && has_decimal_comma) {
+      findings_.thousands_mark = u'.';
+      move_shapes(value_shape::real, value_shape::integer, either_points_);
+    } else if (commas_ <= points_) {
+      findings_.decimal_mark = u'.';
     }
   }
 
@@ -139,16 +153,17 @@ class column_summary {
   std::size_t quoted_ = 0;
   std::size_t points_ = 0;
   std::size_t commas_ = 0;
-  std::size_t either_ = 0;
+  std::size_t either_commas_ = 0;
+  std::size_t either_points_ = 0;
   date_order_evidence order_;
 };
 
 }  // namespace
 
-std::vector<column_findings> describe_columns(reading const& r, std::size_t const first_data) {
+std::vector<column_findings> describe_columns(reading const& r, header_rows const& rows) {
   std::vector<column_summary> summaries(r.block.columns);
   auto const& fields = *r.strategy->field_array();
-  for (std::size_t i = first_data; i <= r.block.last; ++i) {
+  for (std::size_t i = rows.first_data; i <= rows.last_data; ++i) {
     if (r.records[i].num_fields != r.block.columns) {
       continue;
     }
@@ -157,9 +172,10 @@ std::vector<column_findings> describe_columns(reading const& r, std::size_t cons
       summaries[column].add(record[column].view(), r.quote);
     }
   }
+  bool const has_decimal_comma = std::ranges::any_of(summaries, &column_summary::has_decimal_comma);
   std::vector<column_findings> columns;
   for (column_summary& summary : summaries) {
-    columns.push_back(summary.finish());
+    columns.push_back(summary.finish(has_decimal_comma));
   }
   return columns;
 }
@@ -170,17 +186,19 @@ column_findings describe_lines(sample_lines const& lines, std::size_t const firs
   for (std::size_t i = first; i < std::min(lines.count(), first + enough); ++i) {
     summary.add(lines[i], u'"');
   }
-  return summary.finish();
+  return summary.finish(summary.has_decimal_comma());
 }
 
 void place_columns(std::vector<column_findings>& columns, std::vector<std::size_t> const& widths,
                    sample_lines const& lines, std::size_t const first, std::size_t const end,
                    std::string_view const encoding) {
+  constexpr std::size_t lines_compared = 250;
+  std::size_t const last = std::min(end, first + lines_compared);
   std::size_t begin = 0;
   for (std::size_t column = 0; column < std::min(columns.size(), widths.size()); ++column) {
     std::size_t const behind = begin + widths[column];
-    columns[column].characters = extent_in_characters(lines, first, end, begin, behind);
-    columns[column].bytes = extent_in_bytes(lines, first, end, begin, behind, encoding);
+    columns[column].characters = extent_in_characters(lines, first, last, begin, behind);
+    columns[column].bytes = extent_in_bytes(lines, first, last, begin, behind, encoding);
     begin = behind;
   }
 }

@@ -8,15 +8,15 @@
 #include <vector>
 
 #include "text_import/survey/column_findings.hpp"
+#include "text_import/survey/header_rows_internal.hpp"
 #include "text_import/survey/reading_internal.hpp"
 #include "text_import/survey/sample_lines_internal.hpp"
 
 namespace textimport::survey {
 
-/// One entry for each column, from the regular records of the block from `first_data` on. The
-/// names are not set.
+/// One entry for each column, from the regular records of the data. The names are not set.
 [[nodiscard]] std::vector<column_findings> describe_columns(reading const& r,
-                                                            std::size_t first_data);
+                                                            header_rows const& rows);
 
 /// The one column of a text that is read line by line, from a line on.
 [[nodiscard]] column_findings describe_lines(sample_lines const& lines, std::size_t first);

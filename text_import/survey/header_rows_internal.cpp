@@ -5,6 +5,7 @@
 #include <array>
 #include <cstdint>
 #include <set>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -20,20 +21,26 @@ using view = std::u16string_view;
 constexpr std::size_t records_compared = 60;
 constexpr std::size_t candidates = 6;
 
-/// The cells of a stretch of regular records, looked at once.
+using positions = std::span<std::size_t const>;
+
+/// The records of the block that have all columns.
+std::vector<std::size_t> regular_records_of(reading const& r) {
+  std::vector<std::size_t> records;
+  for (std::size_t i = r.block.first; i <= r.block.last; ++i) {
+    if (r.records[i].num_fields == r.block.columns) {
+      records.push_back(i);
+    }
+  }
+  return records;
+}
+
+/// The cells of some records, looked at once.
 class cell_table {
  public:
-  explicit cell_table(reading const& r) : reading_(r) {
-    for (std::size_t i = r.block.first;
-         i <= r.block.last && records_.size() < records_compared + candidates; ++i) {
-      if (r.records[i].num_fields == r.block.columns) {
-        records_.push_back(i);
-        auto const fields = r.strategy->field_array()->record(i);
-        for (std::size_t column = 0; column < r.block.columns; ++column) {
-          view const text = column < fields.size() ? fields[column].view() : view();
-          cells_.push_back({unquoted(text, r.quote), look_at(text, r.quote)});
-        }
-      }
+  cell_table(reading const& r, positions const records)
+      : reading_(r), records_(records.begin(), records.end()) {
+    for (std::size_t const record : records) {
+      add(record);
     }
   }
 
@@ -53,6 +60,14 @@ class cell_table {
   }
 
  private:
+  void add(std::size_t const record) {
+    auto const fields = reading_.strategy->field_array()->record(record);
+    for (std::size_t column = 0; column < reading_.block.columns; ++column) {
+      view const text = column < fields.size() ? fields[column].view() : view();
+      cells_.push_back({unquoted(text, reading_.quote), look_at(text, reading_.quote)});
+    }
+  }
+
   reading const& reading_;
   std::vector<std::size_t> records_;
   std::vector<cell> cells_;
@@ -80,18 +95,24 @@ family family_of(value_shape const shape) {
   }
 }
 
-/// The family of most values of a column from a row on.
-family column_family(cell_table const& table, std::size_t const column, std::size_t const first) {
+/// The family of most values of a column behind a row. The lower half of the table tells: the upper
+/// one may hold more header rows.
+family column_family(cell_table const& table, std::size_t const column, std::size_t const row) {
+  std::size_t const first = std::max(row + 1, table.rows() / 2);
   std::array<std::size_t, 4> counts{};
   std::size_t filled = 0;
-  for (std::size_t row = first; row < table.rows(); ++row) {
-    value_shape const shape = table.at(row, column).look.shape;
+  for (std::size_t below = first; below < table.rows(); ++below) {
+    value_shape const shape = table.at(below, column).look.shape;
     filled += shape != value_shape::empty && shape != value_shape::missing ? 1U : 0U;
     ++counts[static_cast<std::size_t>(family_of(shape))];
   }
   auto const most = std::max_element(counts.begin() + 1, counts.end());
-  return *most > 0 && *most * 5 >= filled * 4 ? static_cast<family>(most - counts.begin())
+  return *most > 0 && *most * 3 >= filled * 2 ? static_cast<family>(most - counts.begin())
                                               : family::none;
+}
+
+bool is_text(value_shape const shape) {
+  return shape == value_shape::word || shape == value_shape::phrase || shape == value_shape::broken;
 }
 
 struct comparison {
@@ -103,7 +124,7 @@ struct comparison {
 comparison compare_with_rest(cell_table const& table, std::size_t const row) {
   comparison c;
   for (std::size_t column = 0; column < table.columns(); ++column) {
-    family const below = column_family(table, column, row + 1);
+    family const below = column_family(table, column, row);
     if (below == family::none) {
       continue;
     }
@@ -213,20 +234,53 @@ std::size_t first_record_behind(reading const& r, std::size_t const header,
   return regular;
 }
 
+/// Whether the row is a note below the data: one filled cell among several columns, or text where
+/// all the columns hold numbers, dates ...
+bool is_footer(cell_table const& table, std::size_t const row) {
+  std::size_t const filled = num_filled(table, row);
+  if (filled == 1 && table.columns() > 2) {
+    return true;
+  }
+  std::size_t conflicts = 0;
+  for (std::size_t column = 0; column < table.columns(); ++column) {
+    family const above = column_family(table, column, 0);
+    value_shape const shape = table.at(row, column).look.shape;
+    conflicts +=
+        above != family::none && family_of(shape) == family::none && is_text(shape) ? 1U : 0U;
+  }
+  return conflicts == filled && filled > 1;
+}
+
+/// The last record of the data: the last regular one that is no note below them.
+std::size_t last_data_record(reading const& r, positions const regular) {
+  constexpr std::size_t most_notes = 5;
+  cell_table const table(r, regular.last(std::min(regular.size(), records_compared)));
+  std::size_t row = table.rows();
+  while (row > 2 && table.rows() - row < most_notes && is_footer(table, row - 1)) {
+    --row;
+  }
+  return table.record(row - 1);
+}
+
 }  // namespace
 
 header_rows find_header_rows(reading const& r) {
-  cell_table const table(r);
-  header_rows found{r.block.first, std::nullopt};
+  std::vector<std::size_t> const regular = regular_records_of(r);
+  cell_table const table(
+      r, positions(regular).first(std::min(regular.size(), records_compared + candidates)));
+  header_rows found{r.block.first, r.block.last, std::nullopt};
   if (table.rows() < 2) {
     return found;
   }
+  found.last_data = last_data_record(r, regular);
   std::size_t const first = skip_titles(table);
   found.first_data = table.record(std::min(first, table.rows() - 1));
   bool any_typed = false;
   std::optional<std::size_t> first_header;
   std::optional<std::size_t> last_header;
-  for (std::size_t row = first; row < std::min(first + candidates, table.rows() - 1); ++row) {
+  std::size_t const upper_half = (table.rows() - first + 1) / 2;
+  for (std::size_t row = first;
+       row < first + std::min(candidates, upper_half) && row + 1 < table.rows(); ++row) {
     comparison const c = compare_with_rest(table, row);
     any_typed = any_typed || c.typed_columns > 0;
     if (is_header_by_types(c) ||

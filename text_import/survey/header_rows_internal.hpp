@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Which of the first records of a table are data and which say what the data are: names, units,
-// rulers.
+// Which records of a table are data, and which above them say what the data are (names, units,
+// rulers) or stand below them as notes.
 #pragma once
 
 #include <cstddef>
@@ -11,9 +11,11 @@
 
 namespace textimport::survey {
 
+/// Positions of records.
 struct header_rows {
-  std::size_t first_data = 0;        ///< record
-  std::optional<std::size_t> names;  ///< record
+  std::size_t first_data = 0;
+  std::size_t last_data = 0;
+  std::optional<std::size_t> names;
 };
 
 [[nodiscard]] header_rows find_header_rows(reading const& r);

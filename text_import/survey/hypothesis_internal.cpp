@@ -52,7 +52,7 @@ std::optional<view> find_comment_marker(sample_lines const& lines) {
   for (view const marker : line_markers) {
     marked_lines const marked = count_marked(lines, marker);
     std::size_t const others = num_looked_at(lines) - marked.count;
-    if (marked.count > most && others >= 2 && marked.count - marked.at_edges <= others / 2) {
+    if (marked.count > most && others >= 2 && marked.count - marked.at_edges <= (others + 1) / 2) {
       best = marker;
       most = marked.count;
     }
@@ -93,6 +93,32 @@ bool has_apostrophe_quotes(sample_lines const& lines) {
   return found * 4 >= num_looked_at(lines) && found > 0;
 }
 
+/// The marker of comment lines or the two of block comments; empty for neither.
+std::vector<std::u16string> find_comment_style(sample_lines const& lines) {
+  for (std::size_t i = 0; i < num_looked_at(lines); ++i) {
+    if (lines[i].starts_with(u"/*") && lines.text().find(u"*/") != view::npos) {
+      return {u"/*", u"*/"};
+    }
+  }
+  auto const marker = find_comment_marker(lines);
+  return marker ? std::vector{std::u16string(*marker)} : std::vector<std::u16string>();
+}
+
+/// Each hypothesis once more, with comments.
+void add_comments(std::vector<hypothesis>& hypotheses, std::vector<std::u16string> const& style) {
+  if (style.empty()) {
+    return;
+  }
+  std::string const marker(style.front().begin(), style.front().end());
+  std::size_t const without = hypotheses.size();
+  for (std::size_t i = 0; i < without; ++i) {
+    hypothesis with = hypotheses[i];
+    with.name += ", comments start with " + marker;
+    with.parsing.comment_style = style;
+    hypotheses.push_back(std::move(with));
+  }
+}
+
 }  // namespace
 
 std::vector<hypothesis> propose_hypotheses(sample_lines const& lines,
@@ -112,15 +138,8 @@ std::vector<hypothesis> propose_hypotheses(sample_lines const& lines,
       hypotheses.back().parsing.quote_characters = u"'";
     }
   }
-  auto const marker = options.given.comment ? std::nullopt : find_comment_marker(lines);
-  if (marker) {
-    std::size_t const without = hypotheses.size();
-    for (std::size_t i = 0; i < without; ++i) {
-      hypothesis with = hypotheses[i];
-      with.name = "comment lines";
-      with.parsing.comment_style = {std::u16string(*marker)};
-      hypotheses.push_back(std::move(with));
-    }
+  if (!options.given.comment) {
+    add_comments(hypotheses, find_comment_style(lines));
   }
   return hypotheses;
 }

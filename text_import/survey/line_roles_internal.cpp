@@ -89,7 +89,7 @@ class line_reader {
   void place_data() {
     auto const& records = reading_.records;
     found_.data_starts_at = records[rows_.first_data].line;
-    std::size_t const next = reading_.block.last + 1;
+    std::size_t const next = rows_.last_data + 1;
     found_.data_ends_at = next < records.size() ? records[next].line : lines_.count();
     while (found_.data_ends_at > found_.data_starts_at &&
            trimmed(lines_[found_.data_ends_at - 1]).empty()) {

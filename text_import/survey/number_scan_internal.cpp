@@ -121,7 +121,7 @@ class number_scan {
   bool read_single_mark(char16_t const mark) noexcept {
     if (mark == u'.' || (mark == u',' && groups_[1] > 0 && !are_thousands(1))) {
       number_.is_integer = false;
-      number_.marks.decimal = mark;
+      number_.marks = {mark, 0, are_thousands(1) && !number_.leading_zeros && groups_[0] > 0};
       return true;
     }
     number_.marks = {0, mark, mark == u','};

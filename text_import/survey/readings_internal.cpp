@@ -26,14 +26,18 @@ using delimiter_list = std::vector<std::u16string>;
 constexpr std::size_t lines_profiled = 2000;
 
 /// Whether characters of one kind stand below each other as they do in columns of fixed width. The
-/// less the positions agree, and the fewer lines there are, the more the lengths have to.
+/// less the positions agree, and the fewer lines there are, the more the lengths have to. Names of
+/// different lengths agree little, but blanks that run through all lines part them.
 bool is_columnar(column_profile const& profile) {
   double const agreement = profile.agreement();
   double const equal = profile.equal_lengths();
+  if (profile.num_lines() < 4) {
+    return false;
+  }
   double const required_equal = profile.num_lines() < 30 ? 0.75 : 0.6;
-  bool const is_long_enough = profile.num_lines() >= 4;
-  return is_long_enough &&
-         ((agreement >= 0.5 && equal >= required_equal) || (agreement >= 0.2 && equal >= 0.95));
+  bool const has_ragged_columns = profile.num_lines() >= 6 && equal >= 0.5 && profile.has_gutters();
+  return (agreement >= 0.5 && equal >= required_equal) || (agreement >= 0.2 && equal >= 0.95) ||
+         has_ragged_columns;
 }
 
 /// Fills the list of one survey.
@@ -91,8 +95,11 @@ class reading_collector {
     }
     auto const strategy =
         std::make_shared<FixedWidthStrategy>(options_.parsing, options_.types, best.widths());
-    textio::evaluate_strategy(strategy, textio::Field(lines_.text()), options_.records);
+    // All lines that were profiled: the table may stand behind a long preamble.
+    textio::evaluate_strategy(strategy, textio::Field(lines_.text()),
+                              std::max(options_.records, lines_profiled));
     readings_.push_back(measure_records(strategy, lines_, &best));
+    readings_.back().agreement = best.agreement();
   }
 
   void next_hypothesis() { ++hypothesis_; }
@@ -151,6 +158,28 @@ std::vector<reading> collect_readings(sample_lines const& lines,
     collector.read_fixed_width(is_fixed);
   }
   return collector.take();
+}
+
+std::shared_ptr<textio::GenericStrategy> read_with_decimal_comma(reading const& r,
+                                                                 sample_lines const& lines,
+                                                                 survey_options const& options) {
+  auto parsing = r.strategy->options();
+  parsing.decimal_separator = u',';
+  auto types = options.types;
+  types.replace_characters = true;
+  types.first_replacement_set += u',';
+  types.first_replacement = u'.';
+  std::shared_ptr<textio::GenericStrategy> strategy;
+  if (r.layout == table_layout::delimited) {
+    strategy = std::make_shared<DelimitedStrategy>(parsing, types);
+  } else if (r.layout == table_layout::space_aligned) {
+    strategy = std::make_shared<SpaceAlignedStrategy>(parsing, types);
+  } else {
+    strategy =
+        std::make_shared<FixedWidthStrategy>(parsing, types, std::vector(parsing.column_widths));
+  }
+  textio::evaluate_strategy(strategy, textio::Field(lines.text()), options.records);
+  return strategy;
 }
 
 std::shared_ptr<textio::GenericStrategy> read_lines(sample_lines const& lines,

@@ -4,6 +4,7 @@
 // never guesses by itself.
 #pragma once
 
+#include <memory>
 #include <vector>
 
 #include "text_import/survey/hypothesis_internal.hpp"
@@ -18,6 +19,10 @@ namespace textimport::survey {
 [[nodiscard]] std::vector<reading> collect_readings(sample_lines const& lines,
                                                     std::vector<hypothesis> const& hypotheses,
                                                     survey_options const& options);
+
+/// The strategy of a reading once more, with a comma for the decimal mark of its numbers.
+[[nodiscard]] std::shared_ptr<textio::GenericStrategy> read_with_decimal_comma(
+    reading const& r, sample_lines const& lines, survey_options const& options);
 
 /// Each line as one value, under the first hypothesis.
 [[nodiscard]] std::shared_ptr<textio::GenericStrategy> read_lines(sample_lines const& lines,

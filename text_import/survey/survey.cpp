@@ -80,12 +80,16 @@ class surveyor {
     auto around = look_around(r, rows, lines_);
     found_.data_starts_at = around.data_starts_at;
     found_.data_ends_at = around.data_ends_at;
-    found_.columns = describe_columns(r, rows.first_data);
+    found_.columns = describe_columns(r, rows);
     if (r.layout == table_layout::fixed_width) {
       place_columns(found_.columns, r.strategy->options().column_widths, lines_,
                     around.data_starts_at, around.data_ends_at, options_.encoding);
     }
     take_surroundings(std::move(around), r.records.size());
+    if (found_.decimal_mark == u',' && !options_.given.decimal_mark &&
+        !options_.types.replace_characters) {
+      found_.strategy = read_with_decimal_comma(r, lines_, options_);
+    }
   }
 
   void take_surroundings(survey::surroundings&& around, std::size_t const num_records) {
@@ -110,7 +114,8 @@ class surveyor {
     auto const first = std::ranges::find_if(
         r.records, [&](auto const& record) { return record.line >= header_lines; });
     std::size_t const last = r.records.size() - 1;
-    return {std::min(static_cast<std::size_t>(first - r.records.begin()), last), std::nullopt};
+    return {std::min(static_cast<std::size_t>(first - r.records.begin()), last),
+            std::max(r.block.last, last), std::nullopt};
   }
 
   void describe_lines() {

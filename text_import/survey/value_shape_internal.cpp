@@ -134,19 +134,19 @@ bool has_foreign_delimiter(view const text) noexcept {
   return false;
 }
 
-value_shape shape_of_text(view const text) noexcept {
+value_shape shape_of_text(view const text, char16_t const quote) noexcept {
   bool const is_address = text.find(u"://") != view::npos && text.find(u' ') == view::npos;
   if (is_address) {
     return value_shape::word;
   }
   if (text.find(u"   ") != view::npos || has_foreign_delimiter(text) || has_odd_brackets(text) ||
-      is_run_together(text) || std::ranges::count(text, u'"') % 2 != 0) {
+      is_run_together(text) || (quote != 0 && std::ranges::count(text, quote) % 2 != 0)) {
     return value_shape::broken;
   }
   return text.find(u' ') == view::npos ? value_shape::word : value_shape::phrase;
 }
 
-value_look look_inside(view const text) {
+value_look look_inside(view const text, char16_t const quote) {
   value_look look;
   if (text.empty()) {
     return look;
@@ -173,7 +173,7 @@ value_look look_inside(view const text) {
              ostrel::io::text::typeconversion::is_datetime(textio::Field(text), {})) {
     look.shape = text.find(u':') == view::npos ? value_shape::date : value_shape::date_time;
   } else {
-    look.shape = shape_of_text(text);
+    look.shape = shape_of_text(text, quote);
   }
   return look;
 }
@@ -191,8 +191,12 @@ value_look look_at(view const field, char16_t const quote) {
   view const text = trimmed(field);
   view const inside = unquoted(text, quote);
   bool const is_quoted = inside.data() != text.data() || (inside.empty() && !text.empty());
-  value_look look = look_inside(inside);
+  value_look look = look_inside(inside, quote);
   look.quoted = is_quoted;
+  bool const opens = quote != 0 && !text.empty() && text.front() == quote;
+  if (opens && !is_quoted) {
+    look.shape = value_shape::broken;  // opened, and closed somewhere inside
+  }
   if (is_quoted && look.shape == value_shape::broken) {
     look.shape = value_shape::phrase;  // that is what the quotes are for
   }

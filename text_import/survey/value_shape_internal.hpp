@@ -31,7 +31,8 @@ enum class value_shape : std::uint8_t {
 struct number_marks {
   char16_t decimal = 0;
   char16_t thousands = 0;
-  /// "1,234": the mark, held as `thousands`, may as well be the decimal one.
+  /// "1,234" and "1.234": the comma, held as `thousands`, may as well be the decimal mark, and the
+  /// point, held as `decimal`, that of thousands.
   bool either = false;
 };
 

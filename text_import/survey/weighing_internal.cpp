@@ -10,10 +10,10 @@ namespace textimport::survey {
 namespace {
 
 /// The rules that look at values, in their order.
-constexpr std::array value_rules{&several_columns,    &enough_text,      &rare_delimiters,
-                                 &sound_values,       &single_blanks,    &seconds_are_no_column,
-                                 &keys_are_no_column, &touching_columns, &best_fit,
-                                 &usual_delimiters};
+constexpr std::array value_rules{&several_columns,       &enough_text,        &rare_delimiters,
+                                 &sound_values,          &single_blanks,      &doubled_delimiters,
+                                 &seconds_are_no_column, &keys_are_no_column, &typed_fixed_width,
+                                 &touching_columns,      &best_fit,           &usual_delimiters};
 
 kept_readings all_of(std::vector<reading> const& readings) {
   kept_readings all(readings.size());

@@ -16,20 +16,24 @@ bool is_flawless_end(reading const& r) {
   return reaches_end && r.regularity >= 0.95 && r.block.regular >= 2 && r.typed_columns > 0;
 }
 
+bool is_enough_by_blanks(reading const& r) {
+  if (r.filled_records == 1) {
+    return r.typed_columns >= 2;
+  }
+  if (r.typed_share < 0.2) {
+    return r.coverage >= 0.95 && r.filled_columns >= 3 && r.block.regular >= 5;
+  }
+  bool const is_data = r.block.regular > 2 && r.typed_share >= 0.5;
+  return r.coverage >= 0.8 || (is_data && r.coverage >= 0.5) ||
+         (r.typed_share >= 0.8 && is_flawless_end(r));
+}
+
 bool is_enough(reading const& r) {
-  bool const is_data = r.typed_share >= 0.5;
   switch (class_of(r)) {
     case delimiter_class::usual:
       return r.coverage >= 0.45 || is_flawless_end(r);
     case delimiter_class::blank:
-      if (r.filled_records == 1) {
-        return r.typed_columns >= 2;
-      }
-      if (r.typed_share < 0.2) {
-        return r.coverage >= 0.95 && r.filled_columns >= 3 && r.block.regular >= 5;
-      }
-      return r.coverage >= 0.8 ||
-             (is_data && ((r.coverage >= 0.5 && r.block.regular > 2) || is_flawless_end(r)));
+      return is_enough_by_blanks(r);
     case delimiter_class::rare:
     case delimiter_class::none:
       break;

@@ -27,10 +27,12 @@ extern survey_rule const regular_records;  // the only one that asks for no valu
 extern survey_rule const several_columns;
 extern survey_rule const enough_text;
 extern survey_rule const single_blanks;
+extern survey_rule const doubled_delimiters;
 extern survey_rule const rare_delimiters;
 extern survey_rule const sound_values;
 extern survey_rule const seconds_are_no_column;
 extern survey_rule const keys_are_no_column;
+extern survey_rule const typed_fixed_width;
 extern survey_rule const touching_columns;
 extern survey_rule const best_fit;
 extern survey_rule const usual_delimiters;
