@@ -34,7 +34,7 @@ std::size_t utf8_length(std::u16string_view const text) {
   std::size_t length = 0;
   for (char16_t const unit : text) {
     bool const is_half_of_pair = (unit & 0xF800U) == 0xD800;
-    length += unit < 0x80 ? 1 : unit < 0x800 || is_half_of_pair ? 2 : 3;
+    length += unit < 0x80 ? 1U : unit < 0x800 || is_half_of_pair ? 2U : 3U;
   }
   return length;
 }
@@ -86,7 +86,8 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* const data, std::size_
   }
   options.strict = in.flag();
   if (in.flag()) {
-    options.encoding = encodings[(in.byte() + 256 * in.byte()) % encodings.size()];
+    std::size_t const number = in.byte();
+    options.encoding = encodings[(256 * number + in.byte()) % encodings.size()];
   }
   if (in.flag()) {
     options.member = "table.csv";

@@ -75,20 +75,23 @@ std::vector<std::string> aliases_of(char const* const converter) {
   return names;
 }
 
+// Left out: the conversion library miscounts and misplaces the bytes that mean nothing in it.
+constexpr std::string_view unreliable = "BOCU-1";
+
 /// The name in the registries of the internet; empty for what only one vendor uses.
 std::string standard_name(std::string const& name) {
   for (char const* const registry : {"MIME", "IANA"}) {
     UErrorCode status = U_ZERO_ERROR;
     char const* const found = ucnv_getStandardName(name.c_str(), registry, &status);
     if (found != nullptr) {
-      return found;
+      return found == unreliable ? std::string() : found;
     }
   }
   return {};
 }
 
-/// Whether the conversion library can convert: it knows the names of encodings that it has no table
-/// for.
+/// Whether the conversion library can convert, and reliably: it knows the names of encodings that
+/// it has no table for.
 bool is_convertible(std::string const& name) {
   UErrorCode status = U_ZERO_ERROR;
   std::unique_ptr<UConverter, decltype(&ucnv_close)> const converter(
@@ -96,7 +99,7 @@ bool is_convertible(std::string const& name) {
   if (status == U_MEMORY_ALLOCATION_ERROR) {
     throw std::bad_alloc();
   }
-  return U_SUCCESS(status) != 0;
+  return U_SUCCESS(status) != 0 && ucnv_getType(converter.get()) != UCNV_BOCU1;
 }
 
 }  // namespace
