@@ -12,7 +12,8 @@ namespace {
 constexpr std::array command_table{
     CommandSpec{Command::Detect, "detect", "[OPTION...] [FILE...]",
                 "Say how each file is laid out: the layout, the delimiter, where the data stand, "
-                "the columns with their names and types, and how sure that is. The command that is meant when none is named."},
+                "the columns with their names and types, and how sure that is. The command that is "
+                "meant when none is named."},
     CommandSpec{Command::Explain, "explain", "[OPTION...] [FILE...]",
                 "Tell how the decision came about: the characters that were tried, every "
                 "candidate, and the rules that left one of them."},

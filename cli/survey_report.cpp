@@ -51,18 +51,17 @@ void add_marks(FactLines& lines, survey_findings const& findings, Settings const
 /// Where the data stand, in lines counted from 1.
 std::string data_text(Answer const& answer, Settings const& settings) {
   survey_findings const& findings = *answer.survey;
-  std::size_t const first = findings.data_starts_at + 1;
-  bool const is_given = !settings.parsing.detect_header_lines;
-  std::string const given = is_given ? given_mark(settings, {Option::HeaderLines}) : "";
+  std::string_view const given = settings.parsing.detect_header_lines ? "" : "; the first is given";
   if (answer.data().empty()) {
-    return "none" + given;
+    return fmt::format("none{}", given);
   }
+  std::size_t const first = findings.data_starts_at + 1;
   if (!findings.data_ends_at) {
-    return fmt::format("from line {}{}; the sample ends before they do", first, given);
+    return fmt::format("from line {} on; the sample ends before them{}", first, given);
   }
-  return *findings.data_ends_at == first
-             ? fmt::format("line {}{}", first, given)
-             : fmt::format("lines {}{} to {}", first, given, *findings.data_ends_at);
+  std::size_t const last = *findings.data_ends_at;
+  return first == last ? fmt::format("line {}{}", first, given)
+                       : fmt::format("lines {} to {}{}", first, last, given);
 }
 
 /// Lines that hold no data, each with its number, its role and its text. In the middle of a long

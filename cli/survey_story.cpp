@@ -32,34 +32,47 @@ std::string answer_text(Answer const& answer) {
   return answer.decided ? reading : "not decided; read as " + reading;
 }
 
-/// Each hypothesis once, with its reason.
-std::string hypotheses_text(survey_findings const& findings, std::size_t const width) {
+/// The hypotheses in the order in which they were tried, each once.
+std::vector<std::string_view> hypotheses_of(survey_findings const& findings) {
   std::vector<std::string_view> names;
-  std::string text;
   for (survey_candidate const& candidate : findings.candidates) {
-    if (std::ranges::find(names, candidate.hypothesis) != names.end()) {
-      continue;
+    if (std::ranges::find(names, candidate.hypothesis) == names.end()) {
+      names.emplace_back(candidate.hypothesis);
     }
-    names.push_back(candidate.hypothesis);
-    std::string_view const reason = hypothesis_reason(candidate.hypothesis);
-    text += paragraph(
-        fmt::format("{}{}{}", candidate.hypothesis, reason.empty() ? "" : ": ", reason), width, 2);
+  }
+  return names;
+}
+
+/// A hypothesis is called by a letter in the table of readings.
+char letter_of(std::size_t const hypothesis) {
+  constexpr std::string_view letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
+  return letters[hypothesis % letters.size()];
+}
+
+std::string hypotheses_text(std::vector<std::string_view> const& names, std::size_t const width) {
+  constexpr std::size_t indent = 5;
+  std::string text;
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    std::string const reason = hypothesis_reason(names[i]);
+    std::string const sentence =
+        fmt::format("{}{}{}", display_bytes(names[i]).utf8, reason.empty() ? "" : ": ", reason);
+    text += fmt::format("  {}  ", letter_of(i)) + wrapped(sentence, indent, width);
   }
   return text;
 }
 
-std::string candidates_text(survey_findings const& findings, std::size_t const width) {
+std::string candidates_text(survey_findings const& findings,
+                            std::vector<std::string_view> const& hypotheses) {
   constexpr std::size_t name_cells = 17;
-  constexpr std::size_t in_front = 53;
   std::string text = "    #  reading           columns  records  soundness  assumed\n";
   for (std::size_t i = 0; i < findings.candidates.size(); ++i) {
     survey_candidate const& candidate = findings.candidates[i];
     auto const name = display_bytes(candidate_name(candidate), name_cells);
-    std::size_t const room = std::max<std::size_t>(width, in_front + 8) - in_front;
+    auto const hypothesis = std::ranges::find(hypotheses, candidate.hypothesis);
     text += fmt::format("  {:>3}  {} {:>7} {:>8} {:>10}  {}\n", i + 1, pad(name, name_cells),
                         candidate.num_columns, share_text(candidate.coverage),
                         fmt::format("{:.2f}", candidate.soundness),
-                        display_bytes(candidate.hypothesis, room).utf8);
+                        letter_of(static_cast<std::size_t>(hypothesis - hypotheses.begin())));
   }
   return text;
 }
@@ -119,10 +132,11 @@ std::string survey_story(Answer const& answer, Settings const& settings, Colors 
   if (findings.candidates.empty()) {
     return heading("The survey: there is no reading to weigh", colors);
   }
+  auto const hypotheses = hypotheses_of(findings);
   std::string text = heading("The survey: what was assumed", colors);
-  text += hypotheses_text(findings, settings.width);
+  text += hypotheses_text(hypotheses, settings.width);
   text += heading("All readings; the share of the text's records that have these columns", colors);
-  text += candidates_text(findings, settings.width);
+  text += candidates_text(findings, hypotheses);
   std::string const fallen = fallen_text(findings, settings.width);
   if (!fallen.empty()) {
     text += heading("Rules of the survey at which readings fall", colors);

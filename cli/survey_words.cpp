@@ -6,6 +6,7 @@
 #include <array>
 #include <cmath>
 #include <utility>
+#include <vector>
 
 #include <fmt/format.h>
 
@@ -88,16 +89,22 @@ std::span<SurveyRuleText const> survey_rules() {
   return rule_texts;
 }
 
-std::string_view hypothesis_reason(std::string_view const hypothesis) {
-  constexpr std::array<std::pair<std::string_view, std::string_view>, 4> reasons{{
-      {"as given", "the options, and the usual where they say nothing"},
+std::string hypothesis_reason(std::string_view const hypothesis) {
+  constexpr std::array<std::pair<std::string_view, std::string_view>, 3> reasons{{
       {"quotes are ordinary characters", "a line holds an odd number of quotes"},
       {"apostrophes are quotes", "apostrophes open and close fields in many lines"},
-      {"comment lines", "lines start with a comment marker"},
+      {"comments start with", "so do some lines"},
   }};
-  auto const* const known =
-      std::ranges::find(reasons, hypothesis, &decltype(reasons)::value_type::first);
-  return known == reasons.end() ? std::string_view() : known->second;
+  if (hypothesis == "as given") {
+    return "the options, and the usual where they say nothing";
+  }
+  std::vector<std::string_view> known;
+  for (auto const& [words, reason] : reasons) {
+    if (hypothesis.find(words) != std::string_view::npos) {
+      known.push_back(reason);
+    }
+  }
+  return fmt::format("{}", fmt::join(known, "; "));
 }
 
 }  // namespace cli

@@ -32,7 +32,7 @@ struct SurveyRuleText {
 /// The rules in their order.
 [[nodiscard]] std::span<SurveyRuleText const> survey_rules();
 
-/// Why a hypothesis is tried; empty when its name says it.
-[[nodiscard]] std::string_view hypothesis_reason(std::string_view hypothesis);
+/// Why a hypothesis is tried; empty when nothing is known about it.
+[[nodiscard]] std::string hypothesis_reason(std::string_view hypothesis);
 
 }  // namespace cli
