@@ -4,42 +4,20 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "cli/library_answer.hpp"
 #include "cli/settings.hpp"
-#include "text_format_detection/detection/detection_report.hpp"
 #include "text_format_detection/model/enums.hpp"
 #include "text_format_detection/strategies/generic_strategy.hpp"
 #include "text_import/source/text_source.hpp"
+#include "text_import/survey/survey.hpp"
 
 namespace cli {
-
-/// Why the answer is what it is: the reasons of the library, and two of the command's own.
-enum class Verdict : std::uint8_t {
-  DateColumns,
-  NoRecords,
-  NoCandidates,
-  Single,
-  Ranked,
-  Tie,
-  NoneLeft,
-  Given,          ///< the user gave the delimiters, the widths or the layout
-  ColumnsDiffer,  ///< the user expects another number of columns
-};
-
-/// How a text is read, and how that was settled.
-struct Finding {
-  std::shared_ptr<textio::GenericStrategy> strategy;  ///< sampled
-  /// How it was found out; empty when the reading was given.
-  std::optional<textio::detection::DetectionReport> report;
-  Verdict verdict = Verdict::Given;
-  bool decided = true;
-};
 
 /// A record that breaks a rule which the user set to "error".
 struct Violation {
@@ -51,17 +29,26 @@ struct Answer {
   std::string path;  ///< as it was typed, "-" for standard input
   textimport::text_source text;
   std::u16string_view sample;  ///< what was looked at, kept alive by `text`
-  Finding finding;             ///< scored
-  /// The number that is given, else the strategy's.
-  std::size_t header_lines = 0;
+
+  std::shared_ptr<textio::GenericStrategy> strategy;  ///< sampled and scored
+  Verdict verdict = Verdict::Given;
+  bool decided = true;
   /// One type for each column; empty for a text without records.
   std::vector<textio::enums::ColumnType> column_types;
-  std::optional<Violation> violation;
-};
+  /// Where the data stand in the sample, in code units.
+  std::size_t data_begin = 0;
+  std::size_t data_end = 0;
 
-/// The selector's decision about a sample under these options.
-[[nodiscard]] Finding detect_layout(textio::parser::options const& parsing,
-                                    Settings const& settings, std::u16string_view sample);
+  /// What the answer comes from, unless the library alone is asked.
+  std::optional<textimport::survey_findings> survey;
+  /// What the library says by itself; where it is shown.
+  std::optional<LibraryAnswer> library;
+  std::optional<Violation> violation;
+
+  [[nodiscard]] std::u16string_view data() const {
+    return sample.substr(data_begin, data_end - data_begin);
+  }
+};
 
 /// Opens the file and finds out how it is laid out, as far as the settings leave that open.
 /// Throws textimport::import_error.

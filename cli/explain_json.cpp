@@ -6,6 +6,7 @@
 
 #include "cli/explain_report.hpp"
 #include "cli/json_report.hpp"
+#include "cli/survey_json.hpp"
 #include "cli/utf.hpp"
 #include "cli/words.hpp"
 
@@ -123,8 +124,8 @@ ordered_json explain_object(Answer const& answer, Settings const& settings) {
   if (explanation.margin) {
     object["margin"] = *explanation.margin;
   }
-  if (answer.finding.report) {
-    DetectionReport const& report = *answer.finding.report;
+  if (answer.library->finding.report) {
+    DetectionReport const& report = *answer.library->finding.report;
     object["outcome"] = outcome_word(report.outcome);
     object["line_reader"] = strategy_object(*report.line_reader);
     object["sampled"] = sampled_array(report);
@@ -132,6 +133,9 @@ ordered_json explain_object(Answer const& answer, Settings const& settings) {
     if (report.winner) {
       object["winner"] = *report.winner;
     }
+  }
+  if (answer.survey) {
+    add_weighing(object, *answer.survey);
   }
   return object;
 }

@@ -10,6 +10,8 @@
 #include "cli/display_text.hpp"
 #include "cli/explain_rules.hpp"
 #include "cli/lines.hpp"
+#include "cli/reasons.hpp"
+#include "cli/survey_story.hpp"
 #include "cli/utf.hpp"
 #include "cli/words.hpp"
 #include "text_import/import_error.hpp"
@@ -57,10 +59,6 @@ std::string reading_sentence(textio::GenericStrategy const& strategy, std::size_
                      columns == 1 ? "" : "s", header, header == 1 ? "" : "s");
 }
 
-std::string heading(std::string_view const text, Colors const& colors) {
-  return fmt::format("\n{}{}{}\n", colors.heading, text, colors.reset);
-}
-
 std::string_view untried_text(NotTried const why) {
   switch (why) {
     case NotTried::DecimalMark:
@@ -102,7 +100,7 @@ std::string untried_paragraph(Explanation const& explanation, NotTried const why
 
 std::string characters_text(Answer const& answer, Explanation const& explanation,
                             std::size_t const width) {
-  bool const none = answer.finding.report->sampled.empty();
+  bool const none = answer.library->finding.report->sampled.empty();
   std::string text = paragraph(none ? "tried: none" : "tried: see the readings below", width);
   std::string others;
   for (NotTried const why :
@@ -162,8 +160,9 @@ std::string runners_up_text(DetectionReport const& report, Explanation const& ex
 
 std::string answer_text(Answer const& answer) {
   std::string const reading =
-      reading_sentence(*answer.finding.strategy, answer.column_types.size(), answer.header_lines);
-  return answer.finding.decided ? reading : "not decided; read as " + reading;
+      reading_sentence(*answer.library->finding.strategy, answer.library->column_types.size(),
+                       answer.library->header_lines);
+  return answer.library->finding.decided ? reading : "not decided; read as " + reading;
 }
 
 std::string without_winner_text(Finding const& finding) {
@@ -178,34 +177,30 @@ std::string summary(Answer const& answer, Settings const& settings,
                     Explanation const& explanation) {
   FactLines lines(settings.width);
   lines.add("answer", answer_text(answer));
-  lines.add("why", why(answer, settings));
+  lines.add("why", why_library(answer, settings));
   if (!explanation.runners_up.empty()) {
-    lines.add("runner-up", runners_up_text(*answer.finding.report, explanation));
+    lines.add("runner-up", runners_up_text(*answer.library->finding.report, explanation));
   }
   if (explanation.without_winner) {
-    bool const delimited = answer.finding.strategy->mode() == StrategyMode::Delimited;
+    bool const delimited = answer.library->finding.strategy->mode() == StrategyMode::Delimited;
     std::string const name =
-        delimited ? reading_name(*answer.finding.strategy) : std::string("blanks");
+        delimited ? reading_name(*answer.library->finding.strategy) : std::string("blanks");
     lines.add("else", fmt::format("without {}: {}", name,
                                   without_winner_text(*explanation.without_winner)));
   }
   return lines.text();
 }
 
-}  // namespace
-
-std::string explain_report(Answer const& answer, Settings const& settings, Colors const& colors) {
+/// The library's own decision.
+std::string library_story(Answer const& answer, Settings const& settings, Colors const& colors) {
   Explanation const explanation = explain_answer(answer, settings);
-  std::string text =
-      fmt::format("{}{}{}\n", colors.heading,
-                  display_bytes(textimport::display_name(answer.path)).utf8, colors.reset);
-  text += summary(answer, settings, explanation);
-  if (!answer.finding.report) {
+  std::string text = summary(answer, settings, explanation);
+  if (!answer.library->finding.report) {
     text += heading("The reading that was given", colors);
     text += candidate_heading;
-    return text + candidate_line("-", *answer.finding.strategy, "given");
+    return text + candidate_line("-", *answer.library->finding.strategy, "given");
   }
-  DetectionReport const& report = *answer.finding.report;
+  DetectionReport const& report = *answer.library->finding.report;
   text += heading("First each line was read as one value", colors);
   text += candidate_heading;
   bool const dates = report.reason == textio::detection::Reason::DateColumns;
@@ -222,6 +217,21 @@ std::string explain_report(Answer const& answer, Settings const& settings, Color
     text += rules_text(report, settings.width);
   }
   return text;
+}
+
+}  // namespace
+
+std::string explain_report(Answer const& answer, Settings const& settings, Colors const& colors) {
+  std::string text =
+      fmt::format("{}{}{}\n", colors.heading,
+                  display_bytes(textimport::display_name(answer.path)).utf8, colors.reset);
+  if (!answer.survey) {
+    return text + library_story(answer, settings, colors);
+  }
+  text += survey_summary(answer, settings);
+  text += heading("The library's own decision", colors);
+  text += library_story(answer, settings, colors);
+  return text + survey_story(answer, settings, colors);
 }
 
 }  // namespace cli

@@ -20,8 +20,6 @@ namespace {
 using textio::detection::DetectionReport;
 using textio::detection::RuleStep;
 
-constexpr std::size_t indent = 4;
-
 /// Positions in the list as a reader counts them, runs taken together: "#1, #3-7".
 std::string position_ranges(std::vector<std::size_t> const& positions) {
   std::vector<std::string> ranges;
@@ -39,37 +37,32 @@ std::string position_ranges(std::vector<std::size_t> const& positions) {
   return fmt::format("{}", fmt::join(ranges, ", "));
 }
 
-/// Those who were kept or fell at a rule, by their numbers: "0: #2, #4; 1: #3".
-std::string grouped_by_number(std::vector<std::pair<double, std::size_t>> candidates) {
-  std::ranges::stable_sort(candidates, {}, &std::pair<double, std::size_t>::first);
+/// Readings grouped by their numbers: "0: #2, #4; 1: #3".
+std::string grouped_by_number(std::vector<NumberedReading> readings) {
+  std::ranges::stable_sort(readings, {}, &NumberedReading::number);
   std::vector<std::string> groups;
-  for (std::size_t start = 0; start < candidates.size();) {
-    std::string const number = number_text(candidates[start].first);
+  for (std::size_t start = 0; start < readings.size();) {
+    std::string const number = number_text(readings[start].number);
     std::vector<std::size_t> positions;
-    while (start < candidates.size() && number_text(candidates[start].first) == number) {
-      positions.push_back(candidates[start++].second);
+    while (start < readings.size() && number_text(readings[start].number) == number) {
+      positions.push_back(readings[start++].position);
     }
     groups.push_back(fmt::format("{}: {}", number, position_ranges(positions)));
   }
   return fmt::format("{}", fmt::join(groups, "; "));
 }
 
-/// Who was kept or fell at a rule, each with its number; by name as long as they are few.
+/// Who was kept or fell at a rule, each with its number.
 std::string with_numbers(DetectionReport const& report, RuleStep const& rule, bool const kept) {
-  constexpr std::size_t few = 6;
-  std::vector<std::pair<double, std::size_t>> candidates;
-  std::vector<std::string> names;
+  std::vector<NumberedReading> readings;
   for (std::size_t i = 0; i < rule.seen.size(); ++i) {
     std::size_t const candidate = rule.seen[i];
     if (std::ranges::binary_search(rule.survivors, candidate) == kept) {
-      candidates.emplace_back(rule.measures[i], candidate);
-      names.push_back(fmt::format("#{} {}: {}", candidate + 1,
-                                  reading_name(*report.candidates[candidate]),
-                                  number_text(rule.measures[i])));
+      readings.push_back(
+          {candidate, reading_name(*report.candidates[candidate]), rule.measures[i]});
     }
   }
-  return names.size() <= few ? fmt::format("{}", fmt::join(names, ", "))
-                             : grouped_by_number(std::move(candidates));
+  return numbered_list(std::move(readings));
 }
 
 std::string_view rule_text(std::string_view const rule) {
@@ -97,6 +90,29 @@ std::string number_text(double const number) {
   return std::isfinite(number) && number < largest_real ? fmt::format("{:.4g}", number) : "none";
 }
 
+std::string numbered_list(std::vector<NumberedReading> readings) {
+  constexpr std::size_t few = 6;
+  if (readings.size() > few) {
+    return grouped_by_number(std::move(readings));
+  }
+  std::vector<std::string> names;
+  for (NumberedReading const& reading : readings) {
+    names.push_back(
+        fmt::format("#{} {}: {}", reading.position + 1, reading.name, number_text(reading.number)));
+  }
+  return fmt::format("{}", fmt::join(names, ", "));
+}
+
+std::string rule_heading(std::size_t const number, std::string_view const rule,
+                         std::string_view const meaning, std::size_t const width) {
+  std::string const start = fmt::format("  {}. {}: ", number, rule);
+  return start + wrapped(meaning, start.size(), width);
+}
+
+std::string heading(std::string_view const text, Colors const& colors) {
+  return fmt::format("\n{}{}{}\n", colors.heading, text, colors.reset);
+}
+
 std::string paragraph(std::string_view const text, std::size_t const width,
                       std::size_t const left) {
   return std::string(left, ' ') + wrapped(text, left, width);
@@ -106,8 +122,7 @@ std::string rules_text(DetectionReport const& report, std::size_t const width) {
   std::string text;
   std::size_t number = 0;
   for (RuleStep const& rule : report.steps) {
-    text += fmt::format("  {}. {}: ", ++number, rule.rule) +
-            wrapped(rule_text(rule.rule), indent + 1 + rule.rule.size() + 2, width);
+    text += rule_heading(++number, rule.rule, rule_text(rule.rule), width);
     bool const none_fell = rule.survivors.size() == rule.seen.size();
     text += paragraph(fmt::format("{} of {} stay: {}", rule.survivors.size(), rule.seen.size(),
                                   with_numbers(report, rule, true)),

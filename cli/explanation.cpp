@@ -65,7 +65,7 @@ std::vector<UntriedCharacter> untried_characters(Answer const& answer, Settings 
   std::vector<UntriedCharacter> untried;
   for (char32_t const c : characters) {
     bool const ends_lines = c == U'\n' || c == U'\r';
-    if (!is_letter_or_digit(c) && !ends_lines && !was_tried(*answer.finding.report, c)) {
+    if (!is_letter_or_digit(c) && !ends_lines && !was_tried(*answer.library->finding.report, c)) {
       untried.push_back({c, reason_for(c, settings)});
     }
   }
@@ -99,12 +99,12 @@ void add_runners_up(Explanation& explanation, textio::detection::RuleStep const&
 std::optional<Finding> find_without_winner(Answer const& answer, Settings const& settings) {
   auto const& mark = settings.parsing.thousands_separator;
   bool const place_is_taken = !mark.empty() && can_be_delimiter(mark.front());
-  bool const found_freely = !settings.layout && answer.finding.report &&
-                            answer.finding.report->outcome == Outcome::Candidate;
+  bool const found_freely = !settings.layout && answer.library->finding.report &&
+                            answer.library->finding.report->outcome == Outcome::Candidate;
   if (place_is_taken || !found_freely) {
     return std::nullopt;
   }
-  auto const& strategy = *answer.finding.strategy;
+  auto const& strategy = *answer.library->finding.strategy;
   auto parsing = settings.parsing;
   parsing.thousands_separator = strategy.mode() == StrategyMode::Delimited
                                     ? strategy.options().delimiters.front()
@@ -118,10 +118,10 @@ std::optional<Finding> find_without_winner(Answer const& answer, Settings const&
 
 Explanation explain_answer(Answer const& answer, Settings const& settings) {
   Explanation explanation;
-  if (!answer.finding.report) {
+  if (!answer.library->finding.report) {
     return explanation;
   }
-  auto const& report = *answer.finding.report;
+  auto const& report = *answer.library->finding.report;
   explanation.untried = untried_characters(answer, settings);
   if (report.winner && !report.steps.empty()) {
     add_runners_up(explanation, report.steps.back(), *report.winner);

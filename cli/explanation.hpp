@@ -39,6 +39,7 @@ struct Explanation {
   std::optional<Finding> without_winner;
 };
 
+/// Of the library's own answer, which is there.
 [[nodiscard]] Explanation explain_answer(Answer const& answer, Settings const& settings);
 
 }  // namespace cli

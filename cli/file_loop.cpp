@@ -29,7 +29,7 @@ int answer_file(std::string const& path, Settings const& settings, Renderer cons
                                 answer.violation->line, answer.violation->message));
       return exit_code::failed;
     }
-    return answer.finding.decided ? exit_code::decided : exit_code::undecided;
+    return answer.decided ? exit_code::decided : exit_code::undecided;
   } catch (textimport::import_error const& error) {
     write_message(display_bytes(error.what()).utf8);
     if (settings.json) {

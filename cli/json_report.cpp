@@ -7,7 +7,8 @@
 #include <fmt/format.h>
 #include <nlohmann/json.hpp>
 
-#include "cli/report.hpp"
+#include "cli/report_parts.hpp"
+#include "cli/survey_json.hpp"
 #include "cli/utf.hpp"
 #include "cli/words.hpp"
 
@@ -35,6 +36,25 @@ std::string underscored(std::string_view const name) {
   return word;
 }
 
+void add_types(ordered_json& object, std::vector<textio::enums::ColumnType> const& types) {
+  object["num_variables"] = types.size();
+  object["column_types"] = ordered_json::array();
+  for (auto const type : types) {
+    object["column_types"].push_back(type_word(type));
+  }
+}
+
+/// What the library says by itself.
+ordered_json library_object(LibraryAnswer const& answer) {
+  ordered_json object;
+  add_reading(object, *answer.finding.strategy);
+  object["header_lines"] = answer.header_lines;
+  add_types(object, answer.column_types);
+  object["decided"] = answer.finding.decided;
+  object["reason"] = verdict_word(answer.finding.verdict);
+  return object;
+}
+
 }  // namespace
 
 void add_reading(ordered_json& object, textio::GenericStrategy const& strategy) {
@@ -58,15 +78,13 @@ ordered_json answer_object(Answer const& answer, Settings const& settings) {
   auto const& findings = answer.text.findings();
   ordered_json object{{"schema", json_schema}};
   add_path(object, answer.path);
-  object["decided"] = answer.finding.decided;
-  object["reason"] = verdict_word(answer.finding.verdict);
-  add_reading(object, *answer.finding.strategy);
-  object["header_lines"] = answer.header_lines;
-  object["num_variables"] = answer.column_types.size();
-  object["column_types"] = ordered_json::array();
-  for (auto const type : answer.column_types) {
-    object["column_types"].push_back(type_word(type));
+  object["decided"] = answer.decided;
+  object["reason"] = verdict_word(answer.verdict);
+  add_reading(object, *answer.strategy);
+  if (!answer.survey) {
+    object["header_lines"] = answer.library->header_lines;
   }
+  add_types(object, answer.column_types);
   auto const ending = line_ending_word(findings.line_endings);
   object["line_ending"] = ending.empty() ? ordered_json() : ordered_json(ending);
   object["encoding"] = findings.encoding.name;
@@ -83,6 +101,10 @@ ordered_json answer_object(Answer const& answer, Settings const& settings) {
                            {"message", answer.violation->message}};
   }
   object["warnings"] = notes(answer);
+  if (answer.survey) {
+    add_survey(object, answer);
+    object["library"] = library_object(*answer.library);
+  }
   return object;
 }
 

@@ -23,6 +23,8 @@ class FactLines {
 
   [[nodiscard]] std::string& text() { return text_; }
 
+  [[nodiscard]] std::size_t width() const { return width_; }
+
  private:
   std::size_t width_;
   std::string text_;

@@ -11,8 +11,9 @@ namespace {
 
 constexpr std::array command_table{
     CommandSpec{Command::Detect, "detect", "[OPTION...] [FILE...]",
-                "Say how each file is laid out: the layout, the delimiter, the header lines, the "
-                "columns and their types. The command that is meant when none is named."},
+                "Say how each file is laid out: the layout, the delimiter, where the data stand, "
+                "the columns with their names and types, and how sure that is. The command that is "
+                "meant when none is named."},
     CommandSpec{Command::Explain, "explain", "[OPTION...] [FILE...]",
                 "Tell how the decision came about: the characters that were tried, every "
                 "candidate, and the rules that left one of them."},
@@ -37,6 +38,9 @@ constexpr std::array option_table{
     OptionSpec{Option::FilesFrom, Section::Reading, 0, "files0-from", "FILE", none, false,
                "Take the names of the files from FILE, each ended by a NUL byte; \"-\" is standard "
                "input."},
+    OptionSpec{Option::Library, Section::Reading, 0, "library", none, none, false,
+               "Give the detection library's own answer. Default: it is asked under several "
+               "assumptions, and what it says is weighed."},
 
     OptionSpec{Option::Layout, Section::Layout, 'l', "layout", none,
                "auto|delimited|space-aligned|fixed-width|lines", false,

@@ -29,6 +29,7 @@ enum class Option : std::uint8_t {
   SampleSize,
   Records,
   FilesFrom,
+  Library,
   // the layout
   Layout,
   Delimiter,
@@ -118,7 +119,7 @@ inline constexpr std::string_view about_files =
     "of a zip archive, as archive.zip:member. Compressed files (gzip, bzip2, xz, zstd, lz4, zip) "
     "are known by their content.";
 inline constexpr std::string_view about_exit_codes =
-    "Exit codes: 0 decided; 1 not decided, an answer by fallback; 2 wrong usage, or a file that "
+    "Exit codes: 0 decided; 1 not decided, the answer is a guess; 2 wrong usage, or a file that "
     "could not be read. For several files the highest.";
 
 }  // namespace cli

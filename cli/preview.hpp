@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The header lines and the first rows of a file, read as the answer says.
+// The lines around the data and the first rows of a file, read as the answer says.
 #pragma once
 
 #include <cstddef>
@@ -16,6 +16,7 @@ namespace cli {
 /// Views into the sample of the answer, but for the cells.
 struct Preview {
   std::vector<std::u16string_view> header_lines;
+  std::vector<std::u16string_view> footer_lines;
   /// The values of each row: blanks around delimited values and quotes are taken off.
   std::vector<std::vector<std::u16string>> rows;
 };
@@ -24,9 +25,6 @@ struct Preview {
 /// of those that a strategy sets for itself.
 [[nodiscard]] textio::parser::options reading_options(Answer const& answer,
                                                       Settings const& settings);
-
-/// The number of code units of the header lines.
-[[nodiscard]] std::size_t header_length(Answer const& answer);
 
 [[nodiscard]] Preview make_preview(Answer const& answer, Settings const& settings);
 

@@ -4,7 +4,6 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "cli/answer.hpp"
 #include "cli/console.hpp"
@@ -12,14 +11,9 @@
 
 namespace cli {
 
-/// What is known about the file, the header lines and the first rows; ends with a line feed.
+/// What is known about the file, the lines around its data, its columns and the first rows; ends
+/// with a line feed.
 [[nodiscard]] std::string report(Answer const& answer, Settings const& settings,
                                  Colors const& colors);
-
-/// What the user should know about the text beside the answer: damage, replaced bytes.
-[[nodiscard]] std::vector<std::string> notes(Answer const& answer);
-
-/// The column types with their positions, runs of equal ones taken together: "1-3 number, 4 text".
-[[nodiscard]] std::string type_runs(std::vector<textio::enums::ColumnType> const& types);
 
 }  // namespace cli

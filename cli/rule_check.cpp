@@ -57,8 +57,8 @@ std::size_t line_at(std::u16string_view const text) {
 
 std::optional<Violation> find_violation(Answer const& answer, Settings const& settings) {
   auto const options = reading_options(answer, settings);
-  auto const mode = answer.finding.strategy->mode();
-  std::size_t pos = header_length(answer);
+  auto const mode = answer.strategy->mode();
+  std::size_t pos = answer.data_begin;
   std::size_t consumed = 0;
   if (broken_rule(options, mode, answer.sample.substr(pos), settings.records, consumed).empty()) {
     return std::nullopt;

@@ -61,6 +61,7 @@ void take_reading(Arguments const& arguments, Settings& settings) {
                            ? textio::unknown_count
                            : count_value(Option::Records, word, 1, largest_count, ", or \"all\"");
   });
+  settings.library_only = arguments.has(Option::Library);
 }
 
 void take_layout(Arguments const& arguments, Settings& settings) {
@@ -206,6 +207,7 @@ void take_output(Arguments const& arguments, Settings& settings) {
   constexpr std::size_t narrowest = 40;
   constexpr std::size_t widest = 10'000;
   settings.json = arguments.has(Option::Json);
+  settings.shows_library = settings.json || arguments.command == Command::Explain;
   with_value(arguments, Option::Rows, [&](std::string const& word) {
     settings.rows = count_value(Option::Rows, word, 0, 1'000'000);
   });

@@ -26,6 +26,9 @@ struct Settings {
   /// How many data records are sampled.
   std::size_t records = 250;
 
+  bool library_only = false;   ///< no survey
+  bool shows_library = false;  ///< beside the survey's answer
+
   bool json = false;
   std::size_t rows = 5;    ///< data rows to show
   std::size_t width = 80;  ///< cells a line

@@ -3,6 +3,7 @@
 #include "cli/table.hpp"
 
 #include <algorithm>
+#include <span>
 
 #include <fmt/format.h>
 
@@ -64,6 +65,16 @@ std::string rest_of_columns(std::size_t const shown, std::size_t const all,
                       : fmt::format("{}(columns 1 to {} of {})\n", indent, shown, all);
 }
 
+/// As much of a name as fits; nothing where that would be only the mark of the cut.
+DisplayText name_within(std::u16string_view const name, std::size_t const cells) {
+  constexpr std::size_t least = 4;
+  DisplayText whole = display_text(name);
+  if (whole.cells <= cells) {
+    return whole;
+  }
+  return cells < least ? DisplayText{} : display_text(name, cells);
+}
+
 /// A line without the blanks at its end.
 void add_line(std::string& text, std::string line) {
   line.erase(line.find_last_not_of(' ') + 1);
@@ -74,26 +85,25 @@ void add_line(std::string& text, std::string line) {
 
 std::string aligned_table(std::vector<TableColumn> const& columns, Rows const& rows,
                           TableSpace const space) {
-  std::vector<std::size_t> least;
-  least.reserve(columns.size());
+  Rows all{{}};  // the headings are cut like the values
   for (TableColumn const& column : columns) {
-    least.push_back(column.heading.size());
+    all.front().push_back(column.heading);
   }
+  all.insert(all.end(), rows.begin(), rows.end());
   std::size_t const room = space.width - space.indent;
-  Grid const grid = fitting_grid(rows, least, gap, room);
+  Grid const grid = fitting_grid(all, std::vector<std::size_t>(columns.size(), 1), gap, room);
   std::size_t const shown = columns_that_fit(grid, gap, room);
   std::string const indent(space.indent, ' ');
   std::string heading = indent;
   std::string rule = indent;
   for (std::size_t column = 0; column < shown; ++column) {
-    DisplayText const title{columns[column].heading, columns[column].heading.size()};
-    heading += pad(title, grid.widths[column] + gap);
+    heading += pad(grid.rows.front()[column], grid.widths[column]) + std::string(gap, ' ');
     rule += std::string(grid.widths[column], '-') + std::string(gap, ' ');
   }
   std::string text;
   add_line(text, heading);
   add_line(text, rule);
-  for (auto const& row : grid.rows) {
+  for (auto const& row : std::span(grid.rows).subspan(1)) {
     std::string line = indent;
     for (std::size_t column = 0; column < std::min(shown, row.size()); ++column) {
       line += pad(row[column], grid.widths[column], columns[column].to_the_right);
@@ -104,7 +114,8 @@ std::string aligned_table(std::vector<TableColumn> const& columns, Rows const& r
   return text + rest_of_columns(shown, columns.size(), indent);
 }
 
-std::string ruled_table(std::vector<std::size_t> const& widths, Rows const& rows,
+std::string ruled_table(std::vector<std::size_t> const& widths,
+                        std::vector<std::u16string> const& names, Rows const& rows,
                         TableSpace const space) {
   constexpr std::size_t bars = 2;
   std::size_t const room = space.width - space.indent - bars;
@@ -116,7 +127,15 @@ std::string ruled_table(std::vector<std::size_t> const& widths, Rows const& rows
   Grid const grid = fitting_grid(rows, least, 1, room);
   std::size_t const shown = columns_that_fit(grid, 1, room);
   std::string const indent(space.indent, ' ');
-  std::string text = indent;
+  std::string text;
+  if (!names.empty()) {
+    std::string line = indent;
+    for (std::size_t column = 0; column < shown; ++column) {
+      line += " " + pad(name_within(names[column], grid.widths[column]), grid.widths[column]);
+    }
+    add_line(text, line);
+  }
+  text += indent;
   for (std::size_t column = 0; column < shown; ++column) {
     text += fmt::format("|{:-<{}}", widths[column], grid.widths[column]);
   }

@@ -11,7 +11,7 @@
 namespace cli {
 
 struct TableColumn {
-  std::string heading;  ///< ASCII
+  std::u16string heading;
   bool to_the_right = false;
 };
 
@@ -29,8 +29,10 @@ using Rows = std::vector<std::vector<std::u16string>>;
                                         TableSpace space);
 
 /// A ruler on which each column begins with "|" and names its width, and the rows between the same
-/// bars. `widths` has one entry for each column.
-[[nodiscard]] std::string ruled_table(std::vector<std::size_t> const& widths, Rows const& rows,
+/// bars. `widths` has one entry for each column, and so has `names`, or none: they stand above the
+/// ruler, cut to the width of their column.
+[[nodiscard]] std::string ruled_table(std::vector<std::size_t> const& widths,
+                                      std::vector<std::u16string> const& names, Rows const& rows,
                                       TableSpace space);
 
 }  // namespace cli

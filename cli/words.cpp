@@ -62,43 +62,6 @@ std::string joined_names(std::vector<std::u16string> const& delimiters) {
   return fmt::format("{}", fmt::join(names, ", "));
 }
 
-/// The candidates that the last rule left, by name.
-std::string level_candidates(textio::detection::DetectionReport const& report) {
-  std::vector<std::string> names;
-  if (!report.steps.empty()) {
-    for (std::size_t const position : report.steps.back().survivors) {
-      names.push_back(reading_name(*report.candidates[position]));
-    }
-  }
-  return fmt::format("{}", fmt::join(names, ", "));
-}
-
-std::string why_single(Answer const& answer) {
-  if (answer.finding.strategy->mode() == StrategyMode::FixedWidth &&
-      answer.finding.report->sampled.size() <= 2) {
-    return "the columns are what the blanks common to all lines leave";
-  }
-  std::size_t const tried = answer.finding.report->sampled.size();
-  return tried == 1 ? "the only reading that was tried, and it splits the lines regularly"
-                    : fmt::format(
-                          "of {} readings that were tried, only this one splits the lines "
-                          "regularly",
-                          tried);
-}
-
-std::string why_ranked(Answer const& answer) {
-  auto const& report = *answer.finding.report;
-  std::string_view const rule = report.steps.back().rule;
-  return fmt::format("of {} regular readings, {}", report.candidates.size(), rule_meaning(rule));
-}
-
-std::string why_given(Settings const& settings) {
-  if (settings.is_given(Option::Delimiter)) {
-    return "the delimiter is given";
-  }
-  return settings.is_given(Option::Widths) ? "the widths are given" : "the layout is given";
-}
-
 }  // namespace
 
 std::string_view layout_word(StrategyMode const mode) {
@@ -160,9 +123,11 @@ std::string_view verdict_word(Verdict const verdict) {
     case Verdict::Given:
       return "given";
     case Verdict::ColumnsDiffer:
+      return "columns_differ";
+    case Verdict::Unsure:
       break;
   }
-  return "columns_differ";
+  return "unsure";
 }
 
 std::string_view fate_word(CandidateFate const fate) {
@@ -241,47 +206,6 @@ std::string reading_name(textio::GenericStrategy const& strategy) {
       break;
   }
   return "whole lines";
-}
-
-std::string_view rule_meaning(std::string_view const rule) {
-  constexpr std::array<std::pair<std::string_view, std::string_view>, 7> meanings{{
-      {"numvariables", "only this one has the number of columns that is expected"},
-      {"dates", "only this one has columns of dates or times"},
-      {"variation", "this one's records are the most regular"},
-      {"class_value", "this one's column types tell the most"},
-      {"header_lines", "this one has the fewest header lines"},
-      {"non_empty", "this one has the largest share of columns with values"},
-      {"priors_rank", "this one's delimiter is the most usual"},
-  }};
-  auto const* const known =
-      std::ranges::find(meanings, rule, &decltype(meanings)::value_type::first);
-  return known == meanings.end() ? rule : known->second;
-}
-
-std::string why(Answer const& answer, Settings const& settings) {
-  switch (answer.finding.verdict) {
-    case Verdict::DateColumns:
-      return "each line as a whole is a date or a time; the comma is a fallback";
-    case Verdict::NoRecords:
-      return answer.sample.empty() ? "the file is empty" : "the text holds nothing but blanks";
-    case Verdict::NoCandidates:
-      return "no character splits the lines into a regular number of fields";
-    case Verdict::Single:
-      return why_single(answer);
-    case Verdict::Ranked:
-      return why_ranked(answer);
-    case Verdict::Tie:
-      return fmt::format("the rules left several readings level ({}); the comma is a fallback",
-                         level_candidates(*answer.finding.report));
-    case Verdict::NoneLeft:
-      return "the rules left no reading";
-    case Verdict::Given:
-      return why_given(settings);
-    case Verdict::ColumnsDiffer:
-      break;
-  }
-  return fmt::format("the number of columns is {}, where {} are expected",
-                     answer.column_types.size(), settings.parsing.num_variables);
 }
 
 }  // namespace cli

@@ -7,10 +7,11 @@
 #include <string>
 #include <string_view>
 
-#include "cli/answer.hpp"
+#include "cli/library_answer.hpp"
 #include "text_format_detection/detection/detection_report.hpp"
 #include "text_format_detection/model/enums.hpp"
 #include "text_format_detection/strategies/generic_strategy.hpp"
+#include "text_import/source/text_source.hpp"
 
 namespace cli {
 
@@ -30,11 +31,5 @@ namespace cli {
 
 /// How a strategy reads a line, in a few words: "comma", "runs of blanks", "fixed widths".
 [[nodiscard]] std::string reading_name(textio::GenericStrategy const& strategy);
-
-/// Why a ranking rule prefers what it keeps: "only this one has columns of dates or times".
-[[nodiscard]] std::string_view rule_meaning(std::string_view rule);
-
-/// One sentence on why the answer is what it is.
-[[nodiscard]] std::string why(Answer const& answer, Settings const& settings);
 
 }  // namespace cli

@@ -74,6 +74,8 @@ class Sources(unittest.TestCase):
 
     def core(self, output):
         answer = json.loads(output)
+        for column in answer["columns"]:
+            del column["longest_value"]  # the words differ
         return {key: value for key, value in answer.items() if key not in MAY_DIFFER}, answer
 
     def expected(self):
