@@ -16,7 +16,7 @@ import re
 import sys
 from pathlib import Path
 
-# From the bottom up. What stands in no layer (tests, examples) may include everything.
+# From the bottom up. What stands in no layer (OUTSIDE) may include everything.
 LIBRARY = "text_format_detection"
 LAYERS = [
     LIBRARY,  # only the files directly in the folder: export and version
@@ -39,6 +39,7 @@ UMBRELLA = f"{LIBRARY}/{LIBRARY}.hpp"
 
 PUBLIC_LISTS = {LIBRARY: "TFD_PUBLIC_HEADERS", "text_import": "TEXT_IMPORT_PUBLIC_HEADERS"}
 SOURCE_FOLDERS = [LIBRARY, "text_import", "cli"]
+OUTSIDE = ["tests", "examples", "benchmarks", "fuzz"]
 
 INCLUDE = re.compile(r'^[ \t]*#[ \t]*include[ \t]*(["<])([^">]+)[">]', re.MULTILINE)
 
@@ -50,7 +51,7 @@ class Tree:
         self.root = root
         self.faults = []
         self.includes = {}
-        for folder in [*SOURCE_FOLDERS, "tests", "examples"]:
+        for folder in [*SOURCE_FOLDERS, *OUTSIDE]:
             for path in sorted((root / folder).rglob("*.?pp")):
                 text = path.read_text(encoding="utf-8")
                 self.includes[path.relative_to(root).as_posix()] = INCLUDE.findall(text)
@@ -81,7 +82,7 @@ def check_includes(tree):
             tree.fault(file, "lies in no known folder of the library")
         for quote, name in tree.includes[file]:
             first = name.split("/")[0]
-            if quote == '"' and first not in [*SOURCE_FOLDERS, "tests", "examples"]:
+            if quote == '"' and first not in [*SOURCE_FOLDERS, *OUTSIDE]:
                 tree.fault(file, f'"{name}" is no path from the root of the repository')
             elif first in SOURCE_FOLDERS and name not in tree.includes and name not in GENERATED:
                 tree.fault(file, f"includes {name}, which does not exist")
@@ -126,11 +127,15 @@ def check_cycles(tree):
 
 
 def listed_files(tree, folder):
-    """By name, the set(...) lists of the folder's CMakeLists.txt, as paths from the root."""
-    text = (tree.root / folder / "CMakeLists.txt").read_text(encoding="utf-8")
-    text = re.sub(r"#.*", "", text)
-    lists = re.findall(r"\bset\(\s*(\w+)\s+([^)]*)\)", text)
-    return {name: [f"{folder}/{file}" for file in files.split()] for name, files in lists}
+    """By name, the set(...) lists of the CMakeLists.txt of the folder and those below it, as paths
+    from the root."""
+    found = {}
+    for path in sorted((tree.root / folder).rglob("CMakeLists.txt")):
+        text = re.sub(r"#.*", "", path.read_text(encoding="utf-8"))
+        here = path.parent.relative_to(tree.root).as_posix()
+        for name, files in re.findall(r"\bset\(\s*(\w+)\s+([^)]*)\)", text):
+            found[name] = [f"{here}/{file}" for file in files.split()]
+    return found
 
 
 def check_public_list(tree, folder, public):
