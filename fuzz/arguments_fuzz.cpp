@@ -57,7 +57,8 @@ Words spelled_out(Arguments const& arguments) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* const data, std::size_t const size) {
+extern "C" int LLVMFuzzerTestOneInput(  // NOLINT(readability-identifier-naming)
+    std::uint8_t const* const data, std::size_t const size) {
   Words const words = words_of({reinterpret_cast<char const*>(data), size});
   auto const arguments = unless_refused([&] { return cli::parse_arguments(words); });
   if (!arguments) {
@@ -73,7 +74,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* const data, std::size_
         *settings;
     require(records > 0 && opening.sample_bytes > 0, "a sample is not empty");
     require(parsing.comment_style.size() <= 2, "comments have two marks at most");
-    require(parsing.line_endings.size() > 0, "lines end somehow");
+    require(!parsing.line_endings.empty(), "lines end somehow");
     require(given.size() <= arguments->given.size(), "nothing is given that was not typed");
   }
   return 0;
