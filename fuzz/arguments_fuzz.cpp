@@ -57,7 +57,8 @@ Words spelled_out(Arguments const& arguments) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* const data, std::size_t const size) {
+extern "C" int LLVMFuzzerTestOneInput(  // NOLINT(readability-identifier-naming)
+    std::uint8_t const* const data, std::size_t const size) {
   Words const words = words_of({reinterpret_cast<char const*>(data), size});
   auto const arguments = unless_refused([&] { return cli::parse_arguments(words); });
   if (!arguments) {

@@ -11,7 +11,8 @@
 
 using fuzz::require;
 
-extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* const data, std::size_t const size) {
+extern "C" int LLVMFuzzerTestOneInput(  // NOLINT(readability-identifier-naming)
+    std::uint8_t const* const data, std::size_t const size) {
   constexpr std::size_t limit = 0x400000;
   fuzz::Input in(data, size);
   std::size_t const piece = 1 + (std::size_t{in.byte()} << in.below(16));

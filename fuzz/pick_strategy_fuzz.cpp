@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // Whole decisions, with the caller's options drawn from the input.
-#include <cstring>
+#include <bit>
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -19,7 +20,6 @@ using textio::GenericStrategy;
 using textio::StrategyValuation;
 using textio::detection::CandidateFate;
 using textio::detection::DetectionReport;
-using textio::detection::RejectionClause;
 using textio::enums::StrategyMode;
 using Options = textio::parser::options;
 using TypeOptions = ostrel::io::text::typedetection::TypeAnalyzerOptions;
@@ -39,7 +39,9 @@ struct Caller {
 };
 
 bool same_score(StrategyValuation const& a, StrategyValuation const& b) {
-  auto const same = [](double const x, double const y) { return std::memcmp(&x, &y, 8) == 0; };
+  auto const same = [](double const x, double const y) {
+    return std::bit_cast<std::uint64_t>(x) == std::bit_cast<std::uint64_t>(y);
+  };
   return same(a.mean_deviation, b.mean_deviation) && same(a.data_variation, b.data_variation) &&
          same(a.prior_rank, b.prior_rank) && a.num_records == b.num_records &&
          a.typical_fields == b.typical_fields && a.num_variables == b.num_variables &&
@@ -92,7 +94,8 @@ void require_sound(DetectionReport const& report, Caller const& caller, Placed c
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* const data, std::size_t const size) {
+extern "C" int LLVMFuzzerTestOneInput(  // NOLINT(readability-identifier-naming)
+    std::uint8_t const* const data, std::size_t const size) {
   fuzz::Input in(data, size);
   std::size_t const records = in.byte();
   Caller const caller{fuzz::draw_options(in), fuzz::draw_type_options(in),

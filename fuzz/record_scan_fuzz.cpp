@@ -121,7 +121,8 @@ void require_resumable(Caller const& caller, Placed const& text) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* const data, std::size_t const size) {
+extern "C" int LLVMFuzzerTestOneInput(  // NOLINT(readability-identifier-naming)
+    std::uint8_t const* const data, std::size_t const size) {
   fuzz::Input in(data, size);
   auto const mode = in.choice(StrategyMode::LineReader);
   bool const sampling = in.flag();

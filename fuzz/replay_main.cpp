@@ -8,7 +8,8 @@
 #include <iterator>
 #include <vector>
 
-extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size);
+extern "C" int LLVMFuzzerTestOneInput(  // NOLINT(readability-identifier-naming)
+    std::uint8_t const* data, std::size_t size);
 
 int main(int const argc, char const* const* const argv) {
   std::size_t count = 0;

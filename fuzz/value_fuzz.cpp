@@ -43,7 +43,8 @@ ColumnType type_as_column(TypeOptions const& types, Field const& value) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* const data, std::size_t const size) {
+extern "C" int LLVMFuzzerTestOneInput(  // NOLINT(readability-identifier-naming)
+    std::uint8_t const* const data, std::size_t const size) {
   fuzz::Input in(data, size);
   bool const draws_format = in.byte() >= 128;
   TypeOptions types = fuzz::draw_type_options(in);
