@@ -27,13 +27,13 @@ using nlohmann::ordered_json;
 
 char const* layout_word(textimport::table_layout const layout) {
   switch (layout) {
-    case textimport::table_layout::delimited:
+    case textimport::table_layout::Delimited:
       return "delimited";
-    case textimport::table_layout::space_aligned:
+    case textimport::table_layout::SpaceAligned:
       return "space";
-    case textimport::table_layout::fixed_width:
+    case textimport::table_layout::FixedWidth:
       return "fixed";
-    case textimport::table_layout::lines:
+    case textimport::table_layout::Lines:
       break;
   }
   return "line";

@@ -99,14 +99,14 @@ std::string missing_text(std::vector<std::u16string> const& words) {
 
 std::string_view order_text(date_order const order) {
   switch (order) {
-    case date_order::day_first:
+    case date_order::DayFirst:
       return "day first";
-    case date_order::month_first:
+    case date_order::MonthFirst:
       return "month first";
-    case date_order::ambiguous:
+    case date_order::Ambiguous:
       return "day or month first, no value tells";
-    case date_order::none:
-    case date_order::year_first:
+    case date_order::None:
+    case date_order::YearFirst:
       break;
   }
   return "";
@@ -128,7 +128,7 @@ std::string remarks(ColumnRun const& run) {
   if (auto const order = order_text(column.order); !order.empty()) {
     texts.emplace_back(order);
   }
-  if (column.quoted && column.type != textimport::value_type::text) {
+  if (column.quoted && column.type != textimport::value_type::Text) {
     texts.emplace_back("in quotes");
   }
   if (column.fitting < column.values) {

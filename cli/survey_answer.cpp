@@ -21,15 +21,15 @@ using textio::enums::StrategyMode;
 table_layout layout_of(StrategyMode const mode) {
   switch (mode) {
     case StrategyMode::Delimited:
-      return table_layout::delimited;
+      return table_layout::Delimited;
     case StrategyMode::SpaceAligned:
-      return table_layout::space_aligned;
+      return table_layout::SpaceAligned;
     case StrategyMode::FixedWidth:
-      return table_layout::fixed_width;
+      return table_layout::FixedWidth;
     case StrategyMode::LineReader:
       break;
   }
-  return table_layout::lines;
+  return table_layout::Lines;
 }
 
 textimport::survey_options survey_options_of(Answer const& answer, Settings const& settings) {
@@ -55,24 +55,24 @@ textimport::survey_options survey_options_of(Answer const& answer, Settings cons
 
 ColumnType type_of(value_type const type) {
   switch (type) {
-    case value_type::integer:
-    case value_type::real:
-    case value_type::complex_number:
+    case value_type::Integer:
+    case value_type::Real:
+    case value_type::ComplexNumber:
       return ColumnType::Number;
-    case value_type::date:
+    case value_type::Date:
       return ColumnType::Date;
-    case value_type::date_time:
+    case value_type::DateTime:
       return ColumnType::DateTime;
-    case value_type::duration:
+    case value_type::Duration:
       return ColumnType::Duration;
-    case value_type::hexadecimal:
+    case value_type::Hexadecimal:
       return ColumnType::Hexadecimal;
-    case value_type::binary:
+    case value_type::Binary:
       return ColumnType::Binary;
-    case value_type::empty:
+    case value_type::Empty:
       return ColumnType::Undecided;
-    case value_type::boolean:
-    case value_type::text:
+    case value_type::Boolean:
+    case value_type::Text:
       break;
   }
   return ColumnType::Text;

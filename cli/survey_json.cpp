@@ -58,7 +58,7 @@ ordered_json column_object(column_findings const& column) {
 }
 
 ordered_json delimiter(survey_candidate const& candidate) {
-  return candidate.layout == table_layout::delimited ? ordered_json(to_utf8(candidate.delimiter))
+  return candidate.layout == table_layout::Delimited ? ordered_json(to_utf8(candidate.delimiter))
                                                      : ordered_json();
 }
 

@@ -58,13 +58,13 @@ constexpr std::array rule_texts{
 
 std::string candidate_name(survey_candidate const& candidate) {
   switch (candidate.layout) {
-    case table_layout::delimited:
+    case table_layout::Delimited:
       return delimiter_name(candidate.delimiter);
-    case table_layout::space_aligned:
+    case table_layout::SpaceAligned:
       return "runs of blanks";
-    case table_layout::fixed_width:
+    case table_layout::FixedWidth:
       return "fixed widths";
-    case table_layout::lines:
+    case table_layout::Lines:
       break;
   }
   return "whole lines";

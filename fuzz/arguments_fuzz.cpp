@@ -69,12 +69,12 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* const data, std::size_
           "words spelled out mean the same");
   auto const settings = unless_refused([&] { return cli::make_settings(*arguments); });
   if (settings) {
-    auto const& [opening, parsing, types, layout, records, json, rows, width, color, given] =
-        *settings;
-    require(records > 0 && opening.sample_bytes > 0, "a sample is not empty");
+    auto const& parsing = settings->parsing;
+    require(settings->records > 0 && settings->opening.sample_bytes > 0, "a sample is not empty");
     require(parsing.comment_style.size() <= 2, "comments have two marks at most");
-    require(parsing.line_endings.size() > 0, "lines end somehow");
-    require(given.size() <= arguments->given.size(), "nothing is given that was not typed");
+    require(!parsing.line_endings.empty(), "lines end somehow");
+    require(settings->given.size() <= arguments->given.size(),
+            "nothing is given that was not typed");
   }
   return 0;
 }

@@ -20,7 +20,14 @@
 namespace {
 
 namespace fs = std::filesystem;
-using namespace textimport;
+using textimport::column_findings;
+using textimport::date_order;
+using textimport::survey_candidate;
+using textimport::survey_findings;
+using textimport::survey_options;
+using textimport::survey_text;
+using textimport::table_layout;
+using textimport::text_source;
 
 fs::path const folder = TFD_TESTS_FOLDER "/text_import/surveys";
 
@@ -40,7 +47,7 @@ void describe_column(std::ostream& out, column_findings const& c) {
   if (c.decimal_mark != 0 || c.thousands_mark != 0) {
     out << ", marks " << show_mark(c.decimal_mark) << " " << show_mark(c.thousands_mark);
   }
-  if (c.order != date_order::none) {
+  if (c.order != date_order::None) {
     out << ", " << name_of(c.order);
   }
   out << (c.leading_zeros ? ", leading zeros" : "") << (c.quoted ? ", quoted" : "") << ", longest "
@@ -132,11 +139,11 @@ TEST(SurveyGiven, PartsStayAsTheyAre) {
             }));
   EXPECT_EQ("lines  1 from 0", answer([](auto& o) {
               o.given.layout = true;
-              o.layout = table_layout::lines;
+              o.layout = table_layout::Lines;
             }));
   EXPECT_EQ("space-aligned  2 from 1", answer([](auto& o) {
               o.given.layout = true;
-              o.layout = table_layout::space_aligned;
+              o.layout = table_layout::SpaceAligned;
             }));
   EXPECT_EQ("delimited ; 2 from 1", answer([](auto& o) {
               o.given.header_lines = true;

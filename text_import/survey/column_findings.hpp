@@ -14,26 +14,26 @@
 namespace textimport {
 
 enum class value_type : std::uint8_t {
-  empty,  ///< no value in the sample
-  integer,
-  real,
-  complex_number,
-  boolean,
-  date,
-  date_time,
-  duration,
-  hexadecimal,
-  binary,
-  text,
+  Empty,  ///< no value in the sample
+  Integer,
+  Real,
+  ComplexNumber,
+  Boolean,
+  Date,
+  DateTime,
+  Duration,
+  Hexadecimal,
+  Binary,
+  Text,
 };
 
 /// In which order the dates of a column write day, month and year.
 enum class date_order : std::uint8_t {
-  none,  ///< no dates, or the month is a word
-  year_first,
-  day_first,
-  month_first,
-  ambiguous,  ///< day or month first: no value tells
+  None,  ///< no dates, or the month is a word
+  YearFirst,
+  DayFirst,
+  MonthFirst,
+  Ambiguous,  ///< day or month first: no value tells
 };
 
 /// The word for a type or an order in machine-readable output: "date-time", "day-first" ...
@@ -49,7 +49,7 @@ struct column_extent {
 /// One column of the data. Counts are of the sampled records.
 struct column_findings {
   std::u16string name;  ///< from the line of names; empty when there is none
-  value_type type = value_type::empty;
+  value_type type = value_type::Empty;
   std::size_t values = 0;   ///< fields that hold a value: not empty, no missing-value word
   std::size_t fitting = 0;  ///< of these, those of the type
   std::size_t empty = 0;    ///< fields that are empty
@@ -57,7 +57,7 @@ struct column_findings {
   std::vector<std::u16string> missing_words;
   char16_t decimal_mark = 0;    ///< in the values, 0 when there is none
   char16_t thousands_mark = 0;  ///< likewise
-  date_order order = date_order::none;
+  date_order order = date_order::None;
   /// Whole numbers with zeros in front, such as postal codes: to be kept as text.
   bool leading_zeros = false;
   bool quoted = false;            ///< every value stands in quotes

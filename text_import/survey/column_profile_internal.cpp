@@ -125,7 +125,7 @@ bool column_profile::is_blank_at(std::size_t const position) const noexcept {
   for (std::size_t kind = 1; kind < num_kinds; ++kind) {
     filled += counts[kind];
   }
-  return filled * 50 <= num_lines_;
+  return std::size_t{filled} * 50 <= num_lines_;
 }
 
 bool column_profile::fits(view const line) const noexcept {
@@ -133,13 +133,13 @@ bool column_profile::fits(view const line) const noexcept {
   std::size_t rare = 0;
   for (std::size_t pos = 0; pos < text.size(); ++pos) {
     std::size_t const kind = kind_of(text[pos]);
-    rare += kind != 0 && counts_[pos][kind] * 20 < num_lines_ ? 1U : 0U;
+    rare += kind != 0 && std::size_t{counts_[pos][kind]} * 20 < num_lines_ ? 1U : 0U;
   }
   return rare * 8 <= text.size();
 }
 
 bool column_profile::is_mostly_digit(std::size_t const position) const noexcept {
-  return counts_[position][digit_kind] * 10 >= num_lines_ * 9;
+  return std::size_t{counts_[position][digit_kind]} * 10 >= num_lines_ * 9;
 }
 
 std::vector<std::size_t> column_profile::widths() const {

@@ -15,7 +15,7 @@ namespace {
 
 using view = std::u16string_view;
 
-constexpr std::size_t num_shapes = static_cast<std::size_t>(value_shape::broken) + 1;
+constexpr std::size_t num_shapes = static_cast<std::size_t>(value_shape::Broken) + 1;
 
 /// What the values of one column have in common, value by value.
 class column_summary {
@@ -23,11 +23,11 @@ class column_summary {
   void add(view const field, char16_t const quote) {
     value_look const look = look_at(field, quote);
     view const text = unquoted(field, quote);
-    if (look.shape == value_shape::empty) {
+    if (look.shape == value_shape::Empty) {
       ++findings_.empty;
       return;
     }
-    if (look.shape == value_shape::missing) {
+    if (look.shape == value_shape::Missing) {
       add_missing_word(text);
       return;
     }
@@ -37,7 +37,7 @@ class column_summary {
     findings_.longest_value = std::max(findings_.longest_value, count_characters(text));
     findings_.leading_zeros = findings_.leading_zeros || look.leading_zeros;
     add_marks(look.marks);
-    if (look.shape == value_shape::date || look.shape == value_shape::date_time) {
+    if (look.shape == value_shape::Date || look.shape == value_shape::DateTime) {
       order_.add(text);
     }
   }
@@ -49,21 +49,21 @@ class column_summary {
     findings_.quoted = findings_.values > 0 && quoted_ == findings_.values;
     settle_marks(has_decimal_comma);
     settle_type();
-    bool const is_number = findings_.type == value_type::integer ||
-                           findings_.type == value_type::real ||
-                           findings_.type == value_type::complex_number;
+    bool const is_number = findings_.type == value_type::Integer ||
+                           findings_.type == value_type::Real ||
+                           findings_.type == value_type::ComplexNumber;
     if (!is_number) {
       findings_.decimal_mark = 0;
       findings_.thousands_mark = 0;
     }
-    if (findings_.type == value_type::integer && findings_.leading_zeros) {
-      findings_.type = value_type::text;  // a code: as a number it would lose its zeros
+    if (findings_.type == value_type::Integer && findings_.leading_zeros) {
+      findings_.type = value_type::Text;  // a code: as a number it would lose its zeros
     } else {
       findings_.leading_zeros = false;
     }
     bool const is_date =
-        findings_.type == value_type::date || findings_.type == value_type::date_time;
-    findings_.order = is_date ? order_.order() : date_order::none;
+        findings_.type == value_type::Date || findings_.type == value_type::DateTime;
+    findings_.order = is_date ? order_.order() : date_order::None;
     return std::move(findings_);
   }
 
@@ -97,7 +97,7 @@ class column_summary {
   void settle_marks(bool const has_decimal_comma) {
     if (commas_ > points_) {
       findings_.decimal_mark = u',';
-      move_shapes(value_shape::integer, value_shape::real, either_commas_);
+      move_shapes(value_shape::Integer, value_shape::Real, either_commas_);
     } else if (either_commas_ > 0) {
       findings_.thousands_mark = u',';
     }
@@ -106,7 +106,7 @@ class column_summary {
     }
     if (points_ == 0 && has_decimal_comma) {
       findings_.thousands_mark = u'.';
-      move_shapes(value_shape::real, value_shape::integer, either_points_);
+      move_shapes(value_shape::Real, value_shape::Integer, either_points_);
     } else if (commas_ <= points_) {
       findings_.decimal_mark = u'.';
     }
@@ -121,9 +121,9 @@ class column_summary {
     if (findings_.values == 0) {
       return;
     }
-    std::size_t const integers = count(value_shape::integer);
-    std::size_t const reals = integers + count(value_shape::real);
-    std::size_t const dates = count(value_shape::date);
+    std::size_t const integers = count(value_shape::Integer);
+    std::size_t const reals = integers + count(value_shape::Real);
+    std::size_t const dates = count(value_shape::Date);
 
     struct choice {
       value_type type;
@@ -131,20 +131,20 @@ class column_summary {
     };
 
     std::array const choices{
-        choice{value_type::integer, integers},
-        choice{value_type::real, reals},
-        choice{value_type::complex_number, reals + count(value_shape::complex_number)},
-        choice{value_type::boolean, count(value_shape::boolean)},
-        choice{value_type::date, dates},
-        choice{value_type::date_time, dates + count(value_shape::date_time)},
-        choice{value_type::duration, count(value_shape::duration)},
-        choice{value_type::hexadecimal, count(value_shape::hexadecimal)},
-        choice{value_type::binary, count(value_shape::binary)}};
+        choice{value_type::Integer, integers},
+        choice{value_type::Real, reals},
+        choice{value_type::ComplexNumber, reals + count(value_shape::ComplexNumber)},
+        choice{value_type::Boolean, count(value_shape::Boolean)},
+        choice{value_type::Date, dates},
+        choice{value_type::DateTime, dates + count(value_shape::DateTime)},
+        choice{value_type::Duration, count(value_shape::Duration)},
+        choice{value_type::Hexadecimal, count(value_shape::Hexadecimal)},
+        choice{value_type::Binary, count(value_shape::Binary)}};
     auto const nearly_all = [&](choice const& c) {
       return c.fitting * 20 >= findings_.values * 19;
     };
     auto const found = std::ranges::find_if(choices, nearly_all);
-    findings_.type = found != choices.end() ? found->type : value_type::text;
+    findings_.type = found != choices.end() ? found->type : value_type::Text;
     findings_.fitting = found != choices.end() ? found->fitting : findings_.values;
   }
 
@@ -174,6 +174,7 @@ std::vector<column_findings> describe_columns(reading const& r, header_rows cons
   }
   bool const has_decimal_comma = std::ranges::any_of(summaries, &column_summary::has_decimal_comma);
   std::vector<column_findings> columns;
+  columns.reserve(summaries.size());
   for (column_summary& summary : summaries) {
     columns.push_back(summary.finish(has_decimal_comma));
   }

@@ -18,19 +18,19 @@ constexpr double surest = 0.99;
 /// Another usual delimiter that splits clearly more of the text, though into worse values.
 bool has_wider_rival(std::vector<reading> const& readings, reading const& answer) {
   return std::ranges::any_of(readings, [&](reading const& r) {
-    return class_of(r) == delimiter_class::usual && r.delimiter != answer.delimiter &&
+    return class_of(r) == delimiter_class::Usual && r.delimiter != answer.delimiter &&
            r.filled_columns >= 2 && r.coverage > answer.coverage + 0.3;
   });
 }
 
 double doubt_of_class(delimiter_class const kind) {
   switch (kind) {
-    case delimiter_class::usual:
-    case delimiter_class::blank:
+    case delimiter_class::Usual:
+    case delimiter_class::Blank:
       return 1;
-    case delimiter_class::rare:
+    case delimiter_class::Rare:
       return 0.85;
-    case delimiter_class::none:
+    case delimiter_class::None:
       break;
   }
   return 0.93;
@@ -67,7 +67,7 @@ double confidence_of_table(std::vector<reading> const& readings, std::size_t con
 double confidence_of_lines(std::vector<reading> const& readings) {
   double best = 0;  // fit of a table of three columns or more
   for (reading const& r : readings) {
-    if (r.filled_columns >= 3 && class_of(r) != delimiter_class::rare) {
+    if (r.filled_columns >= 3 && class_of(r) != delimiter_class::Rare) {
       best = std::max(best, r.coverage * r.soundness);
     }
   }

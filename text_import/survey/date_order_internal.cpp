@@ -53,15 +53,15 @@ void date_order_evidence::add(std::u16string_view const date) noexcept {
 
 date_order date_order_evidence::order() const noexcept {
   if (!is_numeric_) {
-    return date_order::none;
+    return date_order::None;
   }
   if (year_is_first_) {
-    return date_order::year_first;
+    return date_order::YearFirst;
   }
   if (day_is_first_ == month_is_first_) {
-    return date_order::ambiguous;
+    return date_order::Ambiguous;
   }
-  return day_is_first_ ? date_order::day_first : date_order::month_first;
+  return day_is_first_ ? date_order::DayFirst : date_order::MonthFirst;
 }
 
 }  // namespace textimport::survey

@@ -74,24 +74,24 @@ class cell_table {
 };
 
 /// Kinds of values that a name does not have in common with those below it.
-enum class family : std::uint8_t { none, number, time, boolean };
+enum class family : std::uint8_t { None, Number, Time, Boolean };
 
 family family_of(value_shape const shape) {
   switch (shape) {
-    case value_shape::integer:
-    case value_shape::real:
-    case value_shape::complex_number:
-    case value_shape::hexadecimal:
-    case value_shape::binary:
-      return family::number;
-    case value_shape::date:
-    case value_shape::date_time:
-    case value_shape::duration:
-      return family::time;
-    case value_shape::boolean:
-      return family::boolean;
+    case value_shape::Integer:
+    case value_shape::Real:
+    case value_shape::ComplexNumber:
+    case value_shape::Hexadecimal:
+    case value_shape::Binary:
+      return family::Number;
+    case value_shape::Date:
+    case value_shape::DateTime:
+    case value_shape::Duration:
+      return family::Time;
+    case value_shape::Boolean:
+      return family::Boolean;
     default:
-      return family::none;
+      return family::None;
   }
 }
 
@@ -103,16 +103,16 @@ family column_family(cell_table const& table, std::size_t const column, std::siz
   std::size_t filled = 0;
   for (std::size_t below = first; below < table.rows(); ++below) {
     value_shape const shape = table.at(below, column).look.shape;
-    filled += shape != value_shape::empty && shape != value_shape::missing ? 1U : 0U;
+    filled += shape != value_shape::Empty && shape != value_shape::Missing ? 1U : 0U;
     ++counts[static_cast<std::size_t>(family_of(shape))];
   }
   auto const most = std::max_element(counts.begin() + 1, counts.end());
   return *most > 0 && *most * 3 >= filled * 2 ? static_cast<family>(most - counts.begin())
-                                              : family::none;
+                                              : family::None;
 }
 
 bool is_text(value_shape const shape) {
-  return shape == value_shape::word || shape == value_shape::phrase || shape == value_shape::broken;
+  return shape == value_shape::Word || shape == value_shape::Phrase || shape == value_shape::Broken;
 }
 
 struct comparison {
@@ -125,14 +125,14 @@ comparison compare_with_rest(cell_table const& table, std::size_t const row) {
   comparison c;
   for (std::size_t column = 0; column < table.columns(); ++column) {
     family const below = column_family(table, column, row);
-    if (below == family::none) {
+    if (below == family::None) {
       continue;
     }
     ++c.typed_columns;
     value_shape const shape = table.at(row, column).look.shape;
     if (family_of(shape) == below) {
       ++c.agreements;
-    } else if (shape != value_shape::empty && shape != value_shape::missing) {
+    } else if (shape != value_shape::Empty && shape != value_shape::Missing) {
       ++c.conflicts;
     }
   }
@@ -149,7 +149,7 @@ bool counts_up(cell_table const& table, std::size_t const row) {
   std::optional<long> last;
   for (std::size_t column = 0; column < table.columns(); ++column) {
     auto const& cell = table.at(row, column);
-    bool const is_short_integer = cell.look.shape == value_shape::integer && cell.text.size() <= 6;
+    bool const is_short_integer = cell.look.shape == value_shape::Integer && cell.text.size() <= 6;
     std::optional<long> number;
     if (is_short_integer) {
       number = 0;
@@ -246,7 +246,7 @@ bool is_footer(cell_table const& table, std::size_t const row) {
     family const above = column_family(table, column, 0);
     value_shape const shape = table.at(row, column).look.shape;
     conflicts +=
-        above != family::none && family_of(shape) == family::none && is_text(shape) ? 1U : 0U;
+        above != family::None && family_of(shape) == family::None && is_text(shape) ? 1U : 0U;
   }
   return conflicts == filled && filled > 1;
 }

@@ -52,7 +52,7 @@ std::vector<std::u16string> split_line(reading const& r, view const line) {
 bool are_names(std::vector<std::u16string> const& cells) {
   return std::ranges::all_of(cells, [](std::u16string const& cell) {
     value_shape const shape = look_at(cell, 0).shape;
-    return shape == value_shape::word || shape == value_shape::phrase;
+    return shape == value_shape::Word || shape == value_shape::Phrase;
   });
 }
 
@@ -132,29 +132,29 @@ class line_reader {
   [[nodiscard]] line_role role_above(std::size_t const line) const {
     view const text = lines_[line];
     if (found_.has_names && line >= first_name_line_ && line < end_of_names_) {
-      return line_role::names;
+      return line_role::Names;
     }
     if (trimmed(text).empty()) {
-      return line_role::blank;
+      return line_role::Blank;
     }
     if (line == 0 && is_separator_line(text)) {
-      return line_role::separator;
+      return line_role::Separator;
     }
     if (is_ruler(text)) {
-      return line_role::ruler;
+      return line_role::Ruler;
     }
     if (is_comment(text, reading_.strategy->options())) {
-      return line_role::comment;
+      return line_role::Comment;
     }
-    return found_.has_names && line >= end_of_names_ ? line_role::units : line_role::title;
+    return found_.has_names && line >= end_of_names_ ? line_role::Units : line_role::Title;
   }
 
   [[nodiscard]] line_role role_below(std::size_t const line) const {
     view const text = lines_[line];
     if (trimmed(text).empty()) {
-      return line_role::blank;
+      return line_role::Blank;
     }
-    return is_comment(text, reading_.strategy->options()) ? line_role::comment : line_role::footer;
+    return is_comment(text, reading_.strategy->options()) ? line_role::Comment : line_role::Footer;
   }
 
   reading const& reading_;

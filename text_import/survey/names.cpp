@@ -8,13 +8,13 @@ namespace textimport {
 
 char const* name_of(table_layout const layout) noexcept {
   switch (layout) {
-    case table_layout::delimited:
+    case table_layout::Delimited:
       return "delimited";
-    case table_layout::space_aligned:
+    case table_layout::SpaceAligned:
       return "space-aligned";
-    case table_layout::fixed_width:
+    case table_layout::FixedWidth:
       return "fixed-width";
-    case table_layout::lines:
+    case table_layout::Lines:
       break;
   }
   return "lines";
@@ -22,21 +22,21 @@ char const* name_of(table_layout const layout) noexcept {
 
 char const* name_of(line_role const role) noexcept {
   switch (role) {
-    case line_role::title:
+    case line_role::Title:
       return "title";
-    case line_role::comment:
+    case line_role::Comment:
       return "comment";
-    case line_role::blank:
+    case line_role::Blank:
       return "blank";
-    case line_role::names:
+    case line_role::Names:
       return "names";
-    case line_role::units:
+    case line_role::Units:
       return "units";
-    case line_role::ruler:
+    case line_role::Ruler:
       return "ruler";
-    case line_role::separator:
+    case line_role::Separator:
       return "separator";
-    case line_role::footer:
+    case line_role::Footer:
       break;
   }
   return "footer";
@@ -44,27 +44,27 @@ char const* name_of(line_role const role) noexcept {
 
 char const* name_of(value_type const type) noexcept {
   switch (type) {
-    case value_type::empty:
+    case value_type::Empty:
       return "empty";
-    case value_type::integer:
+    case value_type::Integer:
       return "integer";
-    case value_type::real:
+    case value_type::Real:
       return "real";
-    case value_type::complex_number:
+    case value_type::ComplexNumber:
       return "complex";
-    case value_type::boolean:
+    case value_type::Boolean:
       return "boolean";
-    case value_type::date:
+    case value_type::Date:
       return "date";
-    case value_type::date_time:
+    case value_type::DateTime:
       return "date-time";
-    case value_type::duration:
+    case value_type::Duration:
       return "duration";
-    case value_type::hexadecimal:
+    case value_type::Hexadecimal:
       return "hexadecimal";
-    case value_type::binary:
+    case value_type::Binary:
       return "binary";
-    case value_type::text:
+    case value_type::Text:
       break;
   }
   return "text";
@@ -72,15 +72,15 @@ char const* name_of(value_type const type) noexcept {
 
 char const* name_of(date_order const order) noexcept {
   switch (order) {
-    case date_order::none:
+    case date_order::None:
       return "none";
-    case date_order::year_first:
+    case date_order::YearFirst:
       return "year-first";
-    case date_order::day_first:
+    case date_order::DayFirst:
       return "day-first";
-    case date_order::month_first:
+    case date_order::MonthFirst:
       return "month-first";
-    case date_order::ambiguous:
+    case date_order::Ambiguous:
       break;
   }
   return "ambiguous";

@@ -18,15 +18,15 @@ using textio::enums::StrategyMode;
 table_layout layout_of(StrategyMode const mode) noexcept {
   switch (mode) {
     case StrategyMode::Delimited:
-      return table_layout::delimited;
+      return table_layout::Delimited;
     case StrategyMode::SpaceAligned:
-      return table_layout::space_aligned;
+      return table_layout::SpaceAligned;
     case StrategyMode::FixedWidth:
-      return table_layout::fixed_width;
+      return table_layout::FixedWidth;
     case StrategyMode::LineReader:
       break;
   }
-  return table_layout::lines;
+  return table_layout::Lines;
 }
 
 /// Finds the lines of the records. A record without fields takes the line behind the one before.
@@ -132,11 +132,11 @@ double weight_of(value_look const& look) noexcept {
     return 1.0;
   }
   switch (look.shape) {
-    case value_shape::missing:
+    case value_shape::Missing:
       return 0.9;
-    case value_shape::word:
+    case value_shape::Word:
       return 0.8;
-    case value_shape::phrase:
+    case value_shape::Phrase:
       return 0.6;
     default:
       return 0.0;
@@ -147,6 +147,78 @@ double weight_of(value_look const& look) noexcept {
 constexpr std::size_t records_judged = 60;
 constexpr std::size_t columns_judged = 40;
 
+/// Looks at the values of a reading and sets what is measured of them.
+class value_count {
+ public:
+  explicit value_count(reading& r)
+      : reading_(r), columns_(std::min(r.block.columns, columns_judged)) {}
+
+  void run() {
+    std::size_t const step = 1 + reading_.block.regular / records_judged;
+    std::size_t regular = 0;
+    for (std::size_t i = reading_.block.first; i <= reading_.block.last; ++i) {
+      if (i < reading_.records.size() && reading_.records[i].num_fields == reading_.block.columns &&
+          regular++ % step == 0) {
+        add_record(i, regular == 1 && reading_.block.regular > 2);
+      }
+    }
+    set_shares();
+  }
+
+ private:
+  struct column_count {
+    std::size_t filled = 0;
+    std::size_t typed = 0;
+    std::size_t names = 0;  // texts in the first record
+  };
+
+  void add_record(std::size_t const i, bool const may_be_names) {
+    auto const record = reading_.strategy->field_array()->record(i);
+    for (std::size_t column = 0; column < std::min(columns_.size(), record.size()); ++column) {
+      add(columns_[column], look_at(record[column].view(), reading_.quote), may_be_names);
+    }
+  }
+
+  void add(column_count& column, value_look const& look, bool const may_be_name) {
+    ++looked_at_;
+    if (look.shape == value_shape::Empty) {
+      return;
+    }
+    bool const is_value = is_typed(look.shape) || look.shape == value_shape::Missing;
+    ++filled_;
+    weights_ += weight_of(look);
+    broken_ += look.shape == value_shape::Broken ? 1U : 0U;
+    ++column.filled;
+    column.typed += is_value ? 1U : 0U;
+    column.names += may_be_name && !is_value ? 1U : 0U;
+  }
+
+  void set_shares() {
+    std::size_t typed = 0;
+    for (column_count const& column : columns_) {
+      typed += column.typed;
+      reading_.filled_columns += column.filled > 0 ? 1U : 0U;
+      bool const is_typed_column =
+          column.typed > 0 && column.typed * 5 >= (column.filled - column.names) * 4;
+      reading_.typed_columns += is_typed_column ? 1U : 0U;
+    }
+    if (filled_ > 0) {
+      auto const filled = static_cast<double>(filled_);
+      reading_.empty_share = 1 - filled / static_cast<double>(looked_at_);
+      reading_.soundness = weights_ / filled;
+      reading_.broken_share = static_cast<double>(broken_) / filled;
+      reading_.typed_share = static_cast<double>(typed) / filled;
+    }
+  }
+
+  reading& reading_;
+  std::vector<column_count> columns_;
+  std::size_t looked_at_ = 0;
+  std::size_t filled_ = 0;
+  std::size_t broken_ = 0;
+  double weights_ = 0;
+};
+
 }  // namespace
 
 reading measure_records(std::shared_ptr<textio::GenericStrategy> strategy,
@@ -154,7 +226,7 @@ reading measure_records(std::shared_ptr<textio::GenericStrategy> strategy,
   reading r;
   r.strategy = std::move(strategy);
   r.layout = layout_of(r.strategy->mode());
-  if (r.layout == table_layout::delimited && !r.strategy->options().delimiters.empty()) {
+  if (r.layout == table_layout::Delimited && !r.strategy->options().delimiters.empty()) {
     r.delimiter = r.strategy->options().delimiters.front();
   }
   r.quote = quote_of(r.strategy->options());
@@ -177,56 +249,7 @@ std::optional<reading> measure_last_block(reading const& r) {
 }
 
 void measure_values(reading& r) {
-  FieldArray const& fields = *r.strategy->field_array();
-  std::size_t const columns = std::min(r.block.columns, columns_judged);
-
-  struct column_count {
-    std::size_t filled = 0;
-    std::size_t typed = 0;
-    std::size_t names = 0;  // texts in the first record
-  };
-
-  std::vector<column_count> counts(columns);
-  double weights = 0;
-  std::size_t broken = 0;
-  std::size_t filled = 0;
-  std::size_t const step = 1 + r.block.regular / records_judged;
-  std::size_t regular = 0;
-  std::size_t looked_at = 0;
-  for (std::size_t i = r.block.first; i <= r.block.last && i < r.records.size(); ++i) {
-    if (r.records[i].num_fields != r.block.columns || regular++ % step != 0) {
-      continue;
-    }
-    auto const record = fields.record(i);
-    for (std::size_t column = 0; column < std::min(columns, record.size()); ++column) {
-      value_look const look = look_at(record[column].view(), r.quote);
-      ++looked_at;
-      if (look.shape == value_shape::empty) {
-        continue;
-      }
-      ++filled;
-      weights += weight_of(look);
-      broken += look.shape == value_shape::broken ? 1U : 0U;
-      ++counts[column].filled;
-      bool const is_value = is_typed(look.shape) || look.shape == value_shape::missing;
-      counts[column].typed += is_value ? 1U : 0U;
-      bool const may_be_name = regular == 1 && !is_value && r.block.regular > 2;
-      counts[column].names += may_be_name ? 1U : 0U;
-    }
-  }
-  std::size_t typed = 0;
-  for (column_count const& count : counts) {
-    typed += count.typed;
-    r.filled_columns += count.filled > 0 ? 1U : 0U;
-    r.typed_columns +=
-        count.typed > 0 && count.typed * 5 >= (count.filled - count.names) * 4 ? 1U : 0U;
-  }
-  if (filled > 0) {
-    r.empty_share = 1 - static_cast<double>(filled) / static_cast<double>(looked_at);
-    r.soundness = weights / static_cast<double>(filled);
-    r.broken_share = static_cast<double>(broken) / static_cast<double>(filled);
-    r.typed_share = static_cast<double>(typed) / static_cast<double>(filled);
-  }
+  value_count(r).run();
 }
 
 }  // namespace textimport::survey

@@ -36,7 +36,7 @@ struct table_block {
 struct reading {
   std::shared_ptr<textio::GenericStrategy> strategy;
   std::size_t hypothesis = 0;
-  table_layout layout = table_layout::lines;
+  table_layout layout = table_layout::Lines;
   std::u16string delimiter;
   char16_t quote = 0;
 

@@ -66,12 +66,12 @@ class reading_collector {
       evaluate<DelimitedStrategy>(asked, asked.parsing.delimiters);
     } else if (given.widths) {
       evaluate<FixedWidthStrategy>(asked, std::vector(asked.parsing.column_widths));
-    } else if (options_.layout == table_layout::space_aligned) {
+    } else if (options_.layout == table_layout::SpaceAligned) {
       evaluate<SpaceAlignedStrategy>(asked);
-    } else if (options_.layout == table_layout::delimited) {
+    } else if (options_.layout == table_layout::Delimited) {
       ask_library(asked);
       std::erase_if(readings_,
-                    [](reading const& r) { return r.layout != table_layout::delimited; });
+                    [](reading const& r) { return r.layout != table_layout::Delimited; });
       if (readings_.empty()) {
         evaluate<DelimitedStrategy>(asked, delimiter_list{u","});
       }
@@ -111,7 +111,7 @@ class reading_collector {
     return std::ranges::any_of(readings_, [](reading const& r) {
       constexpr std::u16string_view usual = u",\t;|";
       bool const is_usual =
-          r.delimiter.size() == 1 && usual.find(r.delimiter.front()) != usual.npos;
+          r.delimiter.size() == 1 && usual.find(r.delimiter.front()) != std::u16string_view::npos;
       return is_usual && r.coverage >= 0.9 && r.block.columns >= 3;
     });
   }
@@ -152,8 +152,7 @@ std::vector<reading> collect_readings(sample_lines const& lines,
     is_bound ? collector.read_as_given(asked) : collector.ask_library(asked);
     collector.next_hypothesis();
   }
-  bool const is_fixed =
-      given.layout && options.layout == table_layout::fixed_width && !given.widths;
+  bool const is_fixed = given.layout && options.layout == table_layout::FixedWidth && !given.widths;
   if (is_fixed || (!is_bound && !collector.is_explained())) {
     collector.read_fixed_width(is_fixed);
   }
@@ -170,9 +169,9 @@ std::shared_ptr<textio::GenericStrategy> read_with_decimal_comma(reading const& 
   types.first_replacement_set += u',';
   types.first_replacement = u'.';
   std::shared_ptr<textio::GenericStrategy> strategy;
-  if (r.layout == table_layout::delimited) {
+  if (r.layout == table_layout::Delimited) {
     strategy = std::make_shared<DelimitedStrategy>(parsing, types);
-  } else if (r.layout == table_layout::space_aligned) {
+  } else if (r.layout == table_layout::SpaceAligned) {
     strategy = std::make_shared<SpaceAlignedStrategy>(parsing, types);
   } else {
     strategy =

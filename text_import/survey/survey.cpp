@@ -36,7 +36,7 @@ class surveyor {
 
   survey_findings run() {
     hypotheses_ = propose_hypotheses(lines_, options_);
-    if (!(options_.given.layout && options_.layout == table_layout::lines)) {
+    if (!(options_.given.layout && options_.layout == table_layout::Lines)) {
       readings_ = collect_readings(lines_, hypotheses_, options_);
     }
     survey::weighing const weighed = weigh_readings(readings_, is_bound());
@@ -81,7 +81,7 @@ class surveyor {
     found_.data_starts_at = around.data_starts_at;
     found_.data_ends_at = around.data_ends_at;
     found_.columns = describe_columns(r, rows);
-    if (r.layout == table_layout::fixed_width) {
+    if (r.layout == table_layout::FixedWidth) {
       place_columns(found_.columns, r.strategy->options().column_widths, lines_,
                     around.data_starts_at, around.data_ends_at, options_.encoding);
     }
@@ -127,7 +127,7 @@ class surveyor {
     if (first > 0 && !options_.given.header_lines) {
       found_.has_names = true;
       column.name = survey::unquoted(lines_[0], found_.quote);
-      found_.lines.push_back({0, line_role::names});
+      found_.lines.push_back({0, line_role::Names});
     }
     found_.columns.push_back(std::move(column));
     if (!options_.goes_on) {
@@ -146,7 +146,7 @@ class surveyor {
     auto const is_value = [&](std::size_t const line) {
       return is_typed(survey::look_at(lines_[line], survey::quote_of(options_.parsing)).shape);
     };
-    bool const has_values = survey::describe_lines(lines_, 1).type != value_type::text;
+    bool const has_values = survey::describe_lines(lines_, 1).type != value_type::Text;
     return has_values && !is_value(0) ? 1 : 0;
   }
 

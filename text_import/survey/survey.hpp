@@ -23,22 +23,22 @@ namespace textimport {
 
 /// How a text is laid out.
 enum class table_layout : std::uint8_t {
-  delimited,
-  space_aligned,
-  fixed_width,
-  lines,  ///< each line is one value: prose, logs, a list
+  Delimited,
+  SpaceAligned,
+  FixedWidth,
+  Lines,  ///< each line is one value: prose, logs, a list
 };
 
 /// What a line is that holds no data.
 enum class line_role : std::uint8_t {
-  title,      ///< text above the data: a title, notes, settings
-  comment,    ///< starts with the comment marker
-  blank,      ///< empty, or blanks only
-  names,      ///< the names of the columns
-  units,      ///< between the names and the data: units, types, a second line of names
-  ruler,      ///< a line of dashes or the like
-  separator,  ///< "sep=;", with which a spreadsheet names its delimiter
-  footer,     ///< text below the data
+  Title,      ///< text above the data: a title, notes, settings
+  Comment,    ///< starts with the comment marker
+  Blank,      ///< empty, or blanks only
+  Names,      ///< the names of the columns
+  Units,      ///< between the names and the data: units, types, a second line of names
+  Ruler,      ///< a line of dashes or the like
+  Separator,  ///< "sep=;", with which a spreadsheet names its delimiter
+  Footer,     ///< text below the data
 };
 
 /// The word for a layout or a role in machine-readable output: "space-aligned", "names" ...
@@ -48,7 +48,7 @@ enum class line_role : std::uint8_t {
 /// A line that holds no data.
 struct noted_line {
   std::size_t line = 0;  ///< physical line, from 0
-  line_role role = line_role::title;
+  line_role role = line_role::Title;
 };
 
 /// Which parts the caller gives in the options: these stay as they are, and the rest is surveyed
@@ -68,7 +68,7 @@ struct survey_options {
   textio::parser::options parsing;
   ostrel::io::text::typedetection::TypeAnalyzerOptions types;
   given_parts given;
-  table_layout layout = table_layout::lines;  ///< read when it is given
+  table_layout layout = table_layout::Lines;  ///< read when it is given
   /// How many records are sampled; `textio::unknown_count` for all.
   std::size_t records = 250;
   /// True when the text goes on behind the sample: then its end says nothing of a footer.
@@ -80,7 +80,7 @@ struct survey_options {
 /// One reading that was weighed.
 struct survey_candidate {
   std::string hypothesis;  ///< what was assumed: "as given", "comment lines" ...
-  table_layout layout = table_layout::lines;
+  table_layout layout = table_layout::Lines;
   std::u16string delimiter;  ///< of delimited readings
   std::size_t num_columns = 0;
   double coverage = 0;   ///< the share of the text's records that have that many fields
@@ -93,23 +93,23 @@ struct survey_candidate {
 struct survey_findings {
   /// False when the answer is a guess: the caller should ask.
   bool decided = true;
-  /// Why, in words: "given", "one reading holds", "no reading holds: each line is a value" ...
-  std::string reason;
+  bool has_names = false;
+  table_layout layout = table_layout::Lines;
+  char16_t quote = 0;  ///< 0: no field is quoted
+  char16_t decimal_mark = u'.';
   /// From 0 to 1: of the answers with this value about that share is right.
   double confidence = 0;
+  /// Why, in words: "given", "one reading as a table is left" ...
+  std::string reason;
 
-  table_layout layout = table_layout::lines;
   std::u16string delimiter;  ///< of a delimited text, else empty
-  char16_t quote = 0;        ///< 0: no field is quoted
   std::vector<std::u16string> comment_style;
-  char16_t decimal_mark = u'.';
   std::size_t num_columns = 1;
 
   /// The physical line, from 0, of the first data; the number of lines when there are none.
   std::size_t data_starts_at = 0;
   /// The line behind the last data; empty when the sample ends before the data do.
   std::optional<std::size_t> data_ends_at;
-  bool has_names = false;
   /// The lines above and below the data, ascending. Comment and blank lines between data are not
   /// listed.
   std::vector<noted_line> lines;

@@ -137,13 +137,13 @@ bool has_foreign_delimiter(view const text) noexcept {
 value_shape shape_of_text(view const text, char16_t const quote) noexcept {
   bool const is_address = text.find(u"://") != view::npos && text.find(u' ') == view::npos;
   if (is_address) {
-    return value_shape::word;
+    return value_shape::Word;
   }
   if (text.find(u"   ") != view::npos || has_foreign_delimiter(text) || has_odd_brackets(text) ||
       is_run_together(text) || (quote != 0 && std::ranges::count(text, quote) % 2 != 0)) {
-    return value_shape::broken;
+    return value_shape::Broken;
   }
-  return text.find(u' ') == view::npos ? value_shape::word : value_shape::phrase;
+  return text.find(u' ') == view::npos ? value_shape::Word : value_shape::Phrase;
 }
 
 value_look look_inside(view const text, char16_t const quote) {
@@ -152,26 +152,26 @@ value_look look_inside(view const text, char16_t const quote) {
     return look;
   }
   if (auto const number = scan_number(text)) {
-    look.shape = number->is_integer ? value_shape::integer : value_shape::real;
+    look.shape = number->is_integer ? value_shape::Integer : value_shape::Real;
     look.marks = number->marks;
     look.leading_zeros = number->is_integer && number->leading_zeros;
   } else if (is_missing_word(text)) {
-    look.shape = value_shape::missing;
+    look.shape = value_shape::Missing;
   } else if (is_infinity(text)) {
-    look.shape = value_shape::real;
+    look.shape = value_shape::Real;
   } else if (is_boolean_word(text)) {
-    look.shape = value_shape::boolean;
+    look.shape = value_shape::Boolean;
   } else if (is_duration(text)) {
-    look.shape = value_shape::duration;
+    look.shape = value_shape::Duration;
   } else if (is_prefixed_digits(text, u'x', u"0123456789abcdefABCDEF")) {
-    look.shape = value_shape::hexadecimal;
+    look.shape = value_shape::Hexadecimal;
   } else if (is_prefixed_digits(text, u'b', u"01")) {
-    look.shape = value_shape::binary;
+    look.shape = value_shape::Binary;
   } else if (is_complex(text)) {
-    look.shape = value_shape::complex_number;
+    look.shape = value_shape::ComplexNumber;
   } else if (may_be_date(text) &&
              ostrel::io::text::typeconversion::is_datetime(textio::Field(text), {})) {
-    look.shape = text.find(u':') == view::npos ? value_shape::date : value_shape::date_time;
+    look.shape = text.find(u':') == view::npos ? value_shape::Date : value_shape::DateTime;
   } else {
     look.shape = shape_of_text(text, quote);
   }
@@ -195,10 +195,10 @@ value_look look_at(view const field, char16_t const quote) {
   look.quoted = is_quoted;
   bool const opens = quote != 0 && !text.empty() && text.front() == quote;
   if (opens && !is_quoted) {
-    look.shape = value_shape::broken;  // opened, and closed somewhere inside
+    look.shape = value_shape::Broken;  // opened, and closed somewhere inside
   }
-  if (is_quoted && look.shape == value_shape::broken) {
-    look.shape = value_shape::phrase;  // that is what the quotes are for
+  if (is_quoted && look.shape == value_shape::Broken) {
+    look.shape = value_shape::Phrase;  // that is what the quotes are for
   }
   return look;
 }

@@ -10,20 +10,20 @@
 namespace textimport::survey {
 
 enum class value_shape : std::uint8_t {
-  empty,
-  missing,  ///< a word that stands for no value: "NA", "null", "-" ...
-  integer,
-  real,
-  complex_number,
-  boolean,
-  date,
-  date_time,
-  duration,
-  hexadecimal,
-  binary,
-  word,    ///< text without blanks
-  phrase,  ///< text with blanks
-  broken,  ///< what a cut at the wrong place leaves: an odd quote, a foreign delimiter, an open
+  Empty,
+  Missing,  ///< a word that stands for no value: "NA", "null", "-" ...
+  Integer,
+  Real,
+  ComplexNumber,
+  Boolean,
+  Date,
+  DateTime,
+  Duration,
+  Hexadecimal,
+  Binary,
+  Word,    ///< text without blanks
+  Phrase,  ///< text with blanks
+  Broken,  ///< what a cut at the wrong place leaves: an odd quote, a foreign delimiter, an open
            ///< bracket, numbers run together
 };
 
@@ -37,7 +37,7 @@ struct number_marks {
 };
 
 struct value_look {
-  value_shape shape = value_shape::empty;
+  value_shape shape = value_shape::Empty;
   number_marks marks;          ///< of an integer or a real number
   bool quoted = false;         ///< stood in quotes, which were taken off
   bool leading_zeros = false;  ///< an integer with zeros in front: a code rather than a number
@@ -52,11 +52,11 @@ struct value_look {
 
 /// True for the shapes that say more than text: numbers, dates, booleans ...
 [[nodiscard]] constexpr bool is_typed(value_shape const shape) noexcept {
-  return shape >= value_shape::integer && shape <= value_shape::binary;
+  return shape >= value_shape::Integer && shape <= value_shape::Binary;
 }
 
 [[nodiscard]] constexpr bool is_number(value_shape const shape) noexcept {
-  return shape >= value_shape::integer && shape <= value_shape::complex_number;
+  return shape >= value_shape::Integer && shape <= value_shape::ComplexNumber;
 }
 
 }  // namespace textimport::survey

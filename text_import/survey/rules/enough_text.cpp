@@ -30,12 +30,12 @@ bool is_enough_by_blanks(reading const& r) {
 
 bool is_enough(reading const& r) {
   switch (class_of(r)) {
-    case delimiter_class::usual:
+    case delimiter_class::Usual:
       return r.coverage >= 0.45 || is_flawless_end(r);
-    case delimiter_class::blank:
+    case delimiter_class::Blank:
       return is_enough_by_blanks(r);
-    case delimiter_class::rare:
-    case delimiter_class::none:
+    case delimiter_class::Rare:
+    case delimiter_class::None:
       break;
   }
   return true;

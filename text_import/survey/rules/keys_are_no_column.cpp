@@ -21,7 +21,7 @@ bool is_key_and_value(reading const& r, std::span<textio::Field const> const rec
     if (text.empty()) {
       continue;
     }
-    bool const ends_key = text.back() == u':' && class_of(r) == delimiter_class::blank;
+    bool const ends_key = text.back() == u':' && class_of(r) == delimiter_class::Blank;
     if (++filled > 2 || ends_key || (filled == 2 && text.front() == u'=')) {
       return filled <= 2;
     }
@@ -30,7 +30,7 @@ bool is_key_and_value(reading const& r, std::span<textio::Field const> const rec
 }
 
 bool has_real_columns(reading const& r) {
-  if (r.layout == table_layout::fixed_width) {
+  if (r.layout == table_layout::FixedWidth) {
     return true;
   }
   auto const& fields = *r.strategy->field_array();

@@ -14,7 +14,7 @@ survey_rule const rare_delimiters{
       return keep_if(kept, readings, [](reading const& r) {
         bool const has_evidence = r.filled_columns >= 3 && r.soundness >= 0.7 &&
                                   (r.typed_columns > 0 || r.soundness >= 0.9);
-        return class_of(r) != delimiter_class::rare || has_evidence;
+        return class_of(r) != delimiter_class::Rare || has_evidence;
       });
     },
     [](reading const& r) { return r.soundness; }};

@@ -15,13 +15,13 @@ bool is_regular(reading const& r) {
     return false;
   }
   switch (class_of(r)) {
-    case delimiter_class::usual:
+    case delimiter_class::Usual:
       return r.regularity >= 0.6;
-    case delimiter_class::blank:
+    case delimiter_class::Blank:
       return r.regularity >= 0.9;
-    case delimiter_class::rare:
+    case delimiter_class::Rare:
       return r.coverage >= 0.9;
-    case delimiter_class::none:
+    case delimiter_class::None:
       break;
   }
   return true;  // the profile of its columns is what made a reading of fixed widths

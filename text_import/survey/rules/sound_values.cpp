@@ -10,7 +10,7 @@ namespace textimport::survey {
 namespace {
 
 double required_soundness(reading const& r) {
-  if (class_of(r) == delimiter_class::none) {
+  if (class_of(r) == delimiter_class::None) {
     return 0;
   }
   if (r.filled_records == 1) {

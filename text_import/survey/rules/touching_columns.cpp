@@ -19,19 +19,19 @@ bool is_flawless(reading const& r) {
 
 kept_readings apply(kept_readings const& kept, std::vector<reading> const& readings) {
   auto const is_fixed = [&](std::size_t const i) {
-    return class_of(readings[i]) == delimiter_class::none;
+    return class_of(readings[i]) == delimiter_class::None;
   };
   if (std::ranges::none_of(kept, is_fixed)) {
     return kept;
   }
   kept_readings left = keep_if(kept, readings, [](reading const& r) {
-    return class_of(r) != delimiter_class::blank || is_flawless(r);
+    return class_of(r) != delimiter_class::Blank || is_flawless(r);
   });
   bool const is_explained =
       std::ranges::any_of(left, [&](std::size_t const i) { return !is_fixed(i); });
   if (is_explained) {
     left = keep_if(left, readings,
-                   [](reading const& r) { return class_of(r) != delimiter_class::none; });
+                   [](reading const& r) { return class_of(r) != delimiter_class::None; });
   }
   return left;
 }

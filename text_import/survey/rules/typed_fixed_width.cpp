@@ -12,7 +12,7 @@ survey_rule const typed_fixed_width{
     "typed_fixed_width",
     [](kept_readings const& kept, std::vector<reading> const& readings) {
       return keep_if(kept, readings, [](reading const& r) {
-        return class_of(r) != delimiter_class::none || r.typed_columns > 0 || r.agreement >= 0.4;
+        return class_of(r) != delimiter_class::None || r.typed_columns > 0 || r.agreement >= 0.4;
       });
     },
     [](reading const& r) { return static_cast<double>(r.typed_columns); }};

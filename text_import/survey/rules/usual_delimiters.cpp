@@ -13,11 +13,14 @@ namespace {
 /// Smaller is more usual.
 double rank(reading const& r) {
   constexpr std::u16string_view order = u",\t;|";
-  if (r.layout == table_layout::delimited) {
-    auto const place = r.delimiter.size() == 1 ? order.find(r.delimiter.front()) : order.npos;
-    return place != order.npos ? static_cast<double>(place) : r.delimiter == u" " ? 5 : 6;
+  if (r.layout == table_layout::Delimited) {
+    auto const place =
+        r.delimiter.size() == 1 ? order.find(r.delimiter.front()) : std::u16string_view::npos;
+    return place != std::u16string_view::npos ? static_cast<double>(place)
+           : r.delimiter == u" "              ? 5
+                                              : 6;
   }
-  return r.layout == table_layout::space_aligned ? 4 : 7;
+  return r.layout == table_layout::SpaceAligned ? 4 : 7;
 }
 
 kept_readings apply(kept_readings const& kept, std::vector<reading> const& readings) {
