@@ -130,6 +130,7 @@ std::vector<survey_candidate const*> ranked(survey_findings const& findings) {
 /// What else the text may be, for someone who has to decide.
 void add_candidates(FactLines& lines, survey_findings const& findings) {
   constexpr std::size_t most = 6;
+  constexpr std::size_t indent = 9;
   auto const candidates = ranked(findings);
   std::size_t const shown = std::min(candidates.size(), most);
   if (shown == 0) {
@@ -138,9 +139,10 @@ void add_candidates(FactLines& lines, survey_findings const& findings) {
   lines.add("candidates", fmt::format("the best first{}", and_more(candidates.size() - shown)));
   for (std::size_t i = 0; i < shown; ++i) {
     survey_candidate const& candidate = *candidates[i];
-    lines.text() +=
-        fmt::format("    {:>3}  {}: {} of the records, soundness {:.2f}\n", i + 1,
-                    candidate_text(candidate), share_text(candidate.coverage), candidate.soundness);
+    std::string const sentence =
+        fmt::format("{}: {} of the records, soundness {:.2f}", candidate_text(candidate),
+                    share_text(candidate.coverage), candidate.soundness);
+    lines.text() += fmt::format("    {:>3}  ", i + 1) + wrapped(sentence, indent, lines.width());
   }
 }
 

@@ -35,10 +35,16 @@ constexpr std::array rule_texts{
     SurveyRuleText{"single_blanks",
                    "a single blank delimits only where hardly a field is empty; the share of "
                    "empty ones"},
+    SurveyRuleText{"doubled_delimiters",
+                   "where a character stands in pairs only, the pair delimits; the share of empty "
+                   "fields"},
     SurveyRuleText{"seconds_are_no_column",
                    "the fraction of a second behind a comma is no column; the columns"},
     SurveyRuleText{"keys_are_no_column",
                    "\"name: value\" in each line is a list of settings; the columns"},
+    SurveyRuleText{"typed_fixed_width",
+                   "columns of fixed width are believed where one says more than text, or the "
+                   "lines agree nearly everywhere; how many say more"},
     SurveyRuleText{"touching_columns",
                    "blanks separate columns only where none stands inside a value; the share of "
                    "broken values"},
