@@ -24,6 +24,7 @@ namespace {
 /// Runs a program with its output thrown away. Throws std::runtime_error when it fails.
 void run_process(std::vector<std::string> words) {
   std::vector<char*> arguments;
+  arguments.reserve(words.size() + 1);
   for (std::string& word : words) {
     arguments.push_back(word.data());
   }

@@ -155,7 +155,7 @@ std::string extent_text(std::optional<column_extent> const& extent) {
 
 /// The parts of the line about a run, without its remarks.
 std::vector<DisplayText> cells_of(ColumnRun const& run, std::size_t const name_cells) {
-  auto const plain = [](std::string text) { return DisplayText{text, text.size()}; };
+  auto const plain = [](std::string const& text) { return DisplayText{text, text.size()}; };
   bool const is_run = run.last > run.first;
   DisplayText name = display_text(run.findings.name, name_cells);
   if (is_run && !run.findings.name.empty()) {
