@@ -42,9 +42,10 @@ void date_order_evidence::add(std::u16string_view const date) noexcept {
   }
   is_numeric_ = true;
   auto const runs = first_numbers(day);
+  bool const has_points = day.find(u'.') != std::u16string_view::npos;  // 5.1.2024 is in January
   if (runs[0].digits >= 4) {
     year_is_first_ = true;
-  } else if (runs[0].value > 12) {
+  } else if (runs[0].value > 12 || has_points) {
     day_is_first_ = true;
   } else if (runs[1].value > 12) {
     month_is_first_ = true;

@@ -202,6 +202,16 @@ std::size_t num_filled(cell_table const& table, std::size_t const row) {
   return filled;
 }
 
+/// Dashes or the like in every cell.
+bool is_ruler_row(cell_table const& table, std::size_t const row) {
+  for (std::size_t column = 0; column < table.columns(); ++column) {
+    if (table.at(row, column).text.find_first_not_of(u"-=_*~:+") != view::npos) {
+      return false;
+    }
+  }
+  return num_filled(table, row) > 0;
+}
+
 /// The first row that is no title: spreadsheets write a title as a row with one filled cell.
 std::size_t skip_titles(cell_table const& table) {
   std::vector<std::size_t> filled;
@@ -285,7 +295,9 @@ header_rows find_header_rows(reading const& r) {
     any_typed = any_typed || c.typed_columns > 0;
     if (is_header_by_types(c) ||
         (row == first && counts_up(table, row) && !counts_up(table, row + 1))) {
-      first_header = first_header.value_or(row);
+      if (!first_header && !is_ruler_row(table, row)) {
+        first_header = row;
+      }
       last_header = row;
     }
   }
@@ -294,7 +306,9 @@ header_rows find_header_rows(reading const& r) {
     last_header = first;
   }
   if (last_header) {
-    found.names = table.record(*first_header);
+    if (first_header) {
+      found.names = table.record(*first_header);
+    }
     found.first_data =
         first_record_behind(r, table.record(*last_header), table.record(*last_header + 1));
   }

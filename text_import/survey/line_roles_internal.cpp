@@ -17,7 +17,7 @@ using view = std::u16string_view;
 
 bool is_ruler(view const line) {
   view const text = trimmed(line);
-  return text.size() >= 3 && text.find_first_not_of(u"-=_+|:*~# \t") == view::npos &&
+  return text.size() >= 3 && text.find_first_not_of(u"-=_+|:;,*~# \t") == view::npos &&
          text.find_first_of(u"-=_*~") != view::npos;
 }
 
@@ -28,6 +28,19 @@ bool is_separator_line(view const line) {
 bool is_comment(view const line, textio::parser::options const& parsing) {
   return !parsing.comment_style.empty() && !parsing.comment_style.front().empty() &&
          line.starts_with(parsing.comment_style.front());
+}
+
+/// The text of a field as a name: unquoted, and doubled quotes made single ones.
+std::u16string name_of_field(view const field, char16_t const quote) {
+  std::u16string name(unquoted(field, quote));
+  bool const was_quoted = quote != 0 && trimmed(field).starts_with(quote);
+  if (was_quoted) {
+    std::u16string const doubled(2, quote);
+    for (std::size_t pos = name.find(doubled); pos != view::npos; pos = name.find(doubled, pos)) {
+      name.erase(++pos, 1);
+    }
+  }
+  return name;
 }
 
 /// The line without a comment marker in front of it, of whatever kind.
@@ -44,7 +57,7 @@ std::vector<std::u16string> split_line(reading const& r, view const line) {
   textio::read_records(options, r.strategy->mode(), textio::Field(line), 1, 1, fields);
   std::vector<std::u16string> texts;
   for (textio::Field const& field : fields.fields()) {
-    texts.emplace_back(unquoted(field.view(), r.quote));
+    texts.push_back(name_of_field(field.view(), r.quote));
   }
   return texts;
 }
@@ -103,7 +116,7 @@ class line_reader {
       first_name_line_ = reading_.records[*rows_.names].line;
       end_of_names_ = reading_.records[*rows_.names + 1].line;
       for (textio::Field const& field : reading_.strategy->field_array()->record(*rows_.names)) {
-        found_.names.emplace_back(unquoted(field.view(), reading_.quote));
+        found_.names.push_back(name_of_field(field.view(), reading_.quote));
       }
     } else {
       find_names_above();
