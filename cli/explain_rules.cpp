@@ -96,6 +96,7 @@ std::string numbered_list(std::vector<NumberedReading> readings) {
     return grouped_by_number(std::move(readings));
   }
   std::vector<std::string> names;
+  names.reserve(readings.size());
   for (NumberedReading const& reading : readings) {
     names.push_back(
         fmt::format("#{} {}: {}", reading.position + 1, reading.name, number_text(reading.number)));
