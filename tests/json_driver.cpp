@@ -88,9 +88,8 @@ char const* name_of(textio::detection::Reason const reason) {
 }
 
 json answer_pick(json const& question, std::u16string const& text) {
-  options const given = record_of<options>(part_of(question, "options"));
-  TypeAnalyzerOptions const type_options =
-      record_of<TypeAnalyzerOptions>(part_of(question, "type_options"));
+  auto const given = record_of<options>(part_of(question, "options"));
+  auto const type_options = record_of<TypeAnalyzerOptions>(part_of(question, "type_options"));
   textio::detection::StrategySelector selector(given, type_options);
   textio::detection::DetectionReport report;
   auto const result = selector.pick_strategy(
@@ -136,7 +135,7 @@ json catch_error(Run const& run) {
 
 json answer_read(json const& question, std::u16string const& text) {
   auto const kind = question.at("strategy").get<std::string>();
-  options in_force = record_of<options>(part_of(question, "options"));
+  auto in_force = record_of<options>(part_of(question, "options"));
   enums::StrategyMode mode = raw_mode(kind);
   if (!kind.starts_with("raw_")) {
     char const* const argument = kind == "fixed_width" ? "widths" : "delimiters";
@@ -201,7 +200,7 @@ json answer_datetime(json const& question, std::u16string const& text) {
 }
 
 json answer(json const& question) {
-  std::u16string const text = value_of<std::u16string>(question.value("text", json("")));
+  auto const text = value_of<std::u16string>(question.value("text", json("")));
   std::string const op = question.value("op", "pick");
   json out;
   if (op == "pick") {

@@ -38,10 +38,10 @@ TEST(TextModel, FieldThatIsMovedFromIsEmpty) {
   Field from(u"abc");
   Field to(std::move(from));
   EXPECT_EQ(show(to.view()), "abc");
-  EXPECT_EQ(from.data(), nullptr);  // NOLINT(bugprone-use-after-move): that is the question
+  EXPECT_EQ(from.data(), nullptr);  // NOLINT: that is the question
   from = std::move(to);
   EXPECT_EQ(show(from.view()), "abc");
-  EXPECT_EQ(to.data(), nullptr);  // NOLINT(bugprone-use-after-move)
+  EXPECT_EQ(to.data(), nullptr);  // NOLINT: the same
 }
 
 TEST(TextModel, MutableFieldOwnsWhatIsLeft) {
