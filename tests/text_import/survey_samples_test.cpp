@@ -111,6 +111,7 @@ TEST_P(Survey, Sample) {
   std::string const found = survey_file(folder / GetParam());
   if (std::getenv("TFD_WRITE_EXPECTED") != nullptr) {
     std::ofstream(expected, std::ios::binary) << found;
+    FAIL() << "written anew: read it before it is believed";
   }
   EXPECT_EQ(read_file(expected), found);
 }
