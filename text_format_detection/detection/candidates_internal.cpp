@@ -58,29 +58,21 @@ class CandidateBuilder {
 
   void append(StrategyPtr const& strategy) {
     list_.push_back(strategy);
-    if (SampledStrategy* const entry = find_entry(strategy)) {
+    if (SampledStrategy* const entry = last_entry()) {
       entry->candidate = list_.size() - 1;
     }
   }
 
-  void note(StrategyPtr const& strategy, CandidateFate const fate,
-            RejectionClause const clause = RejectionClause::None) {
-    if (SampledStrategy* const entry = find_entry(strategy)) {
+  void note(CandidateFate const fate, RejectionClause const clause = RejectionClause::None) {
+    if (SampledStrategy* const entry = last_entry()) {
       entry->fate = fate;
       entry->clause = clause;
     }
   }
 
-  /// What the log says of a strategy; it is among the last that were sampled.
-  [[nodiscard]] SampledStrategy* find_entry(StrategyPtr const& strategy) const {
-    if (in_.log == nullptr) {
-      return nullptr;
-    }
-    auto entry = in_.log->rbegin();
-    while (entry->strategy != strategy) {
-      ++entry;
-    }
-    return &*entry;
+  /// What the log says of the strategy sampled last: each one's fate is known before the next.
+  [[nodiscard]] SampledStrategy* last_entry() const {
+    return in_.log != nullptr ? &in_.log->back() : nullptr;
   }
 
   /// The fixed-width layout that the caller asks for, with widths given or to be found.
@@ -133,7 +125,7 @@ class CandidateBuilder {
     StrategyPtr const single_space = make<DelimitedStrategy>(u' ');
     sample(single_space);
     if (compare && !(typed_share(*single_space) >= typed_share(*space_aligned))) {
-      note(single_space, CandidateFate::LessTyped);
+      note(CandidateFate::LessTyped);
       return;
     }
     append_if_acceptable(single_space);
@@ -165,7 +157,7 @@ class CandidateBuilder {
       append(space_aligned);
       return;
     }
-    note(space_aligned, CandidateFate::ReplacedByFixedWidth);
+    note(CandidateFate::ReplacedByFixedWidth);
     StrategyPtr const fixed_width = make<FixedWidthStrategy>(std::move(layout.widths));
     fixed_width->header_lines(header_lines);
     sample(fixed_width);
@@ -176,7 +168,7 @@ class CandidateBuilder {
     RejectionClause const clause =
         find_rejection(strategy->valuation(), in_.options.ignore_num_variables);
     if (clause != RejectionClause::None) {
-      note(strategy, CandidateFate::Rejected, clause);
+      note(CandidateFate::Rejected, clause);
       return false;
     }
     append(strategy);

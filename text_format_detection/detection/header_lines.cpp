@@ -66,14 +66,12 @@ std::optional<std::size_t> shrink_to_mostly_headers(std::size_t n, std::size_t c
   return n;
 }
 
-/// The weighted sum of each value and its neighbours; an end stands in for its missing neighbour.
-/// (The last value weighs its left neighbour by `next`; the weights in use are symmetric.)
+/// The weighted sum of each value, of two at least, and its neighbours; an end stands in for its
+/// missing neighbour. (The last value weighs its left neighbour by `next`; the weights in use are
+/// symmetric.)
 std::vector<double> three_point_filter(std::vector<double> const& values, double const previous,
                                        double const own, double const next) {
   std::size_t const count = values.size();
-  if (count < 2) {
-    return values;
-  }
   std::vector<double> result(count);
   result.front() = (own + previous) * values[0] + next * values[1];
   for (std::size_t i = 1; i + 1 < count; ++i) {

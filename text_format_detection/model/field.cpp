@@ -54,9 +54,7 @@ void MutableField::own() {
 }
 
 void MutableField::release() noexcept {
-  if (owned_ && heap_buffer_ != nullptr && heap_buffer_ != inline_buffer_.data()) {
-    delete[] heap_buffer_;
-  }
+  delete[] heap_buffer_;
 }
 
 }  // namespace textio

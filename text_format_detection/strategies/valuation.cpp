@@ -88,10 +88,6 @@ void GenericStrategy::score(std::vector<std::size_t> const& counts) {
 void GenericStrategy::score_regular_lines(std::vector<std::size_t> const& counts,
                                           std::size_t const typical, std::size_t const skip) {
   std::vector<std::size_t> const deviations = strategies::field_count_deviations(counts, typical);
-  if (deviations.empty()) {  // cannot be: the typical count is some line's count
-    header_lines_ = std::max(strategies::to_line_index(0, empty_lines(counts), counts), skip);
-    return;
-  }
   valuation_.mean_deviation = strategies::mean_from(deviations, 0);
   calculate_headerlines(deviations, skip);
   valuation_.data_variation = get_data_variation(deviations);
