@@ -52,6 +52,9 @@ TEST(TextModel, MutableFieldOwnsWhatIsLeft) {
     field.remove_suffix(1);
     field.own();
     text.assign(text.size(), u'b');
+    char16_t const* const copy = field.data();
+    field.own();
+    EXPECT_EQ(field.data(), copy) << "once";
     EXPECT_EQ(show(field.view()), std::string(length, 'a'));
     field.remove_suffix(length + 1);
     EXPECT_TRUE(field.empty());

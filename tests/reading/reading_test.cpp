@@ -134,4 +134,12 @@ TEST(SampleStrategy, ReadsOnceUpToTheRecordLimit) {
   });
 }
 
+TEST(SampleStrategy, LeavesWhatHasNoReader) {
+  auto const strategy = std::make_shared<textio::GenericStrategy>(
+      options{}, textio::GenericStrategy::TypeAnalyzerOptions{}, StrategyMode{4});
+  Field const sample(u"a,b\nc,d\n");
+  EXPECT_EQ(textio::evaluate_strategy(strategy, sample, 2).num_records, 0U);
+  EXPECT_FALSE(strategy->is_sampled());
+}
+
 }  // namespace

@@ -66,6 +66,13 @@ TEST(Valuation, IsComputedOnce) {
   EXPECT_EQ(strategy.field_array()->num_records(), 4U);
 }
 
+TEST(Valuation, ColumnsOfNoSample) {
+  DelimitedStrategy strategy(options{}, {}, u',');
+  strategy.inspect_datatypes();
+  EXPECT_TRUE(strategy.has_inspected_columns());
+  EXPECT_EQ(strategy.column_types(), std::vector<unsigned char>{5}) << "undecided";
+}
+
 TEST(Valuation, ColumnTypes) {
   support::for_each_row("strategies/column_types.tsv", [](support::Row const& row) {
     auto const types = support::record_of<textio::GenericStrategy::TypeAnalyzerOptions>(row.with);
