@@ -93,6 +93,14 @@ TEST(Allocations, MayFailInEveryDecision) {
   std::printf("figure: %zu allocations of decisions failed, once and for good\n", count);
 }
 
+TEST(Allocations, MayFailWhileAWrongFormatIsExplained) {
+  textio::parser::options const options;
+  TypeAnalyzerOptions types;
+  types.datetime_format = u"qqq";
+  StrategySelector selector(options, types);
+  fail_each_allocation([&] { selector.pick_strategy(Field(u"a,b\n1/2,3/4\n"), 25); });
+}
+
 TEST(Allocations, MayFailWhenATextIsOpened) {
   std::string const table = textimport::made::table_of(3000);
   // Nothing that takes statistics to decode: the library asked for them leaks when it runs out.
