@@ -116,14 +116,14 @@ class DelimitedScanner {
     }
     for (;; ++pos) {
       pos = stops_.find(pos);
-      if (model::at_end(text_, pos)) {
-        return {pos, 0, 0};
-      }
       if (std::size_t const length = line_endings_.length_at(text_, pos)) {
         return {pos, 0, length};
       }
       if (std::size_t const length = delimiters_.length_at(text_, pos)) {
         return {pos, length, 0};
+      }
+      if (model::at_end(text_, pos)) {
+        return {pos, 0, 0};
       }
     }
   }

@@ -13,7 +13,6 @@ namespace {
 
 using textio::Field;
 using textio::FieldArray;
-using textio::enums::StrategyMode;
 
 /// Finds the lines of the records. A record without fields takes the line behind the one before.
 void place_records(reading& r, sample_lines const& lines) {
