@@ -56,16 +56,17 @@ StrategyPtr line_reader(Shape const& /*shape*/) {
 
 /// Scans record after record and stores nothing.
 template <class Reader>
-std::size_t scan_all(parser::options const& options, std::u16string_view text) {
+std::size_t scan_all(parser::options const& options, std::u16string_view const text) {
   Reader const reader(options);
-  return reading::with_scanner(reader, [text](auto const& scanner) mutable {
+  return reading::with_scanner(reader, text, [text](auto scanner) {
     reading::RecordScan scan;
     std::size_t num_fields = 0;
+    std::size_t start = 0;
     do {
-      scanner.scan(text, scan);
+      scanner.scan(start, scan);
       num_fields += scan.num_fields();
-      text.remove_prefix(std::min(scan.occupied, text.size()));
-    } while (scan.occupied > 0 && !text.empty());
+      start += scan.occupied;
+    } while (scan.occupied > 0 && start < text.size());
     return num_fields;
   });
 }

@@ -18,20 +18,6 @@ using textimport::value_type;
 using textio::enums::ColumnType;
 using textio::enums::StrategyMode;
 
-table_layout layout_of(StrategyMode const mode) {
-  switch (mode) {
-    case StrategyMode::Delimited:
-      return table_layout::Delimited;
-    case StrategyMode::SpaceAligned:
-      return table_layout::SpaceAligned;
-    case StrategyMode::FixedWidth:
-      return table_layout::FixedWidth;
-    case StrategyMode::LineReader:
-      break;
-  }
-  return table_layout::Lines;
-}
-
 textimport::survey_options survey_options_of(Answer const& answer, Settings const& settings) {
   auto const& findings = answer.text.findings();
   textimport::survey_options options;
@@ -45,7 +31,7 @@ textimport::survey_options survey_options_of(Answer const& answer, Settings cons
   options.given.header_lines = !settings.parsing.detect_header_lines;
   if (auto const layout = implied_layout(settings)) {
     options.given.layout = true;
-    options.layout = layout_of(*layout);
+    options.layout = textimport::layout_of(*layout);
   }
   options.records = settings.records;
   options.goes_on = findings.goes_on;

@@ -8,23 +8,29 @@
 
 namespace textio {
 
-namespace {
+FieldArray::~FieldArray() = default;
 
-template <class T>
-void make_room(std::vector<T>& values, std::size_t const count) {
-  std::size_t const needed = values.size() + count;
-  if (needed > values.capacity()) {
-    values.reserve(std::max(needed, 2 * values.capacity()));
+void FieldArray::reserve(std::size_t const num_records) {
+  fields_.reserve(num_records);
+  record_ends_.reserve(num_records);
+}
+
+void FieldArray::reserve_record(std::size_t const num_fields) {
+  if (num_fields > fields_.capacity() - fields_.size()) {
+    fields_.reserve(larger_capacity(num_fields));
+  }
+  if (record_ends_.size() == record_ends_.capacity()) {
+    record_ends_.reserve(2 * record_ends_.size() + 1);
   }
 }
 
-}  // namespace
-
-FieldArray::~FieldArray() = default;
-
-void FieldArray::reserve_record(std::size_t const num_fields) {
-  make_room(fields_, num_fields);
-  make_room(record_ends_, 1);
+/// Room for as many fields a record as so far, in all the records for which there is room; but at
+/// least twice and at most four times the room there was, or what `num_fields` more take.
+std::size_t FieldArray::larger_capacity(std::size_t const num_fields) const noexcept {
+  std::size_t const needed = fields_.size() + num_fields;
+  std::size_t const expected = needed / (num_records() + 1) * record_ends_.capacity();
+  std::size_t const room = fields_.capacity();
+  return std::max(needed, std::clamp(expected, 2 * room, 4 * room));
 }
 
 void FieldArray::append_record(std::span<Field const> const fields) {

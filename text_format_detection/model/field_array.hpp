@@ -58,6 +58,9 @@ class TFD_API FieldArray {
     return std::span<Field const>(fields_).subspan(record_start(r), num_fields(r));
   }
 
+  /// Makes room for this many records of one field each. Throws std::bad_alloc.
+  void reserve(std::size_t num_records);
+
   /// Appends one record with these fields, or one without any. `fields` must not lie in this
   /// array. Throws std::bad_alloc, and changes nothing then.
   void append_record(std::span<Field const> fields);
@@ -72,6 +75,7 @@ class TFD_API FieldArray {
 
  private:
   void reserve_record(std::size_t num_fields);
+  [[nodiscard]] std::size_t larger_capacity(std::size_t num_fields) const noexcept;
 
   std::vector<Field> fields_;
   std::vector<std::size_t> record_ends_;

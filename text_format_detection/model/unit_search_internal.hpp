@@ -1,85 +1,66 @@
 // SPDX-License-Identifier: MIT
 //
-// Finding the next of a few code units, many units of the text at a time. Scans spend most of their
+// Finding the next of a few code units, a block of the text at a time. Scans spend most of their
 // time here.
 #pragma once
 
 #include <array>
+#include <bit>
 #include <cstddef>
-#include <string>
+#include <cstdint>
 #include <string_view>
-
-#include <experimental/simd>
 
 #include "text_format_detection/model/text_view_internal.hpp"
 
 namespace textio::model {
 
-/// A search for any of a set of code units, and for the end of the text. Sets of up to eight units
-/// are compared a whole vector of the text at a time, larger ones unit by unit.
+/// A walk over one text for the places of any of a set of code units, and for the text's end.
+/// What a block holds is found out once, so that near places cost next to nothing: positions are
+/// best asked for in ascending order.
 class UnitSearch {
  public:
-  explicit UnitSearch(std::u16string_view const units)
-      : set_(UnitSet(units).with_end_mark()), kind_(choose_kind(units)) {
-    wanted_.fill(Vector(end_mark));
-    if (kind_ != Kind::Many) {
-      std::size_t slot = 1;
-      for (char16_t const unit : units) {
-        wanted_.at(slot++) = Vector(unit);
-      }
-    }
-  }
+  /// The text has to outlive the search.
+  UnitSearch(std::u16string_view text, std::u16string_view units);
 
   /// The first position from `pos` on that holds one of the units; the end of the text without one
-  /// (its first end mark, or its length).
-  [[nodiscard]] std::size_t find(std::u16string_view const text,
-                                 std::size_t const pos) const noexcept {
-    switch (kind_) {
-      case Kind::Few:
-        return find_among<few>(text, pos);
-      case Kind::Several:
-        return find_among<several>(text, pos);
-      case Kind::Many:
-        break;
-    }
-    return find_member(text, pos, set_);
+  /// (its first end mark, or its length; `pos` when that lies behind).
+  [[nodiscard]] std::size_t find(std::size_t const pos) noexcept {
+    std::size_t const offset = pos - block_start_;
+    Bits const rest = offset < block_length ? found_ >> offset : 0;
+    return rest != 0 ? pos + static_cast<std::size_t>(std::countr_zero(rest)) : find_anew(pos);
   }
 
  private:
-  using Vector = std::experimental::native_simd<char16_t>;
+  static constexpr std::size_t block_length = 64;
+  // Up to this many units are each compared with a whole block; where there are fewer, the first
+  // stands in the free places.
+  static constexpr std::size_t many = 8;
+  static constexpr std::size_t pattern_length = 8;
 
-  enum class Kind : unsigned char { Few, Several, Many };
+  /// One bit for each code unit of a block, the lowest for the first.
+  using Bits = std::uint64_t;
+  /// A wanted unit as often as it is compared at once: in each place, or in both of its bytes.
+  using Pattern = std::array<char16_t, pattern_length>;
 
-  // How many units are compared, the end mark included.
-  static constexpr std::size_t few = 4;
-  static constexpr std::size_t several = 8;
-
-  static Kind choose_kind(std::u16string_view const units) noexcept {
-    if (units.size() >= several) {
-      return Kind::Many;
-    }
-    return units.size() < few ? Kind::Few : Kind::Several;
+  [[nodiscard]] std::size_t first_found() const noexcept {
+    return block_start_ + static_cast<std::size_t>(std::countr_zero(found_));
   }
 
-  template <std::size_t Count>
-  [[nodiscard]] std::size_t find_among(std::u16string_view const text,
-                                       std::size_t pos) const noexcept {
-    for (; pos + Vector::size() <= text.size(); pos += Vector::size()) {
-      Vector const units(text.data() + pos, std::experimental::element_aligned);
-      auto found = units == wanted_[0];
-      for (std::size_t i = 1; i < Count; ++i) {
-        found = found || units == wanted_[i];
-      }
-      if (std::experimental::any_of(found)) {
-        return pos + static_cast<std::size_t>(std::experimental::find_first_set(found));
-      }
-    }
-    return find_member(text, pos, set_);
-  }
+  [[nodiscard]] std::size_t find_anew(std::size_t pos) noexcept;
+  template <class SearchBlock>
+  void search_from(std::size_t pos, SearchBlock const& search_block) noexcept;
+  [[nodiscard]] Bits look_up(char16_t const* units) const noexcept;
 
+  std::u16string_view text_;
+  // The block searched last; before it, from the position that was asked for, there is nothing.
+  // None so far: no position lies in one that begins here.
+  std::size_t block_start_ = unknown_count - block_length;
+  Bits found_ = 0;
+  std::size_t gap_start_ = unknown_count;
   UnitSet set_;
-  Kind kind_;
-  std::array<Vector, several> wanted_;  // free slots hold the end mark
+  std::size_t num_units_;
+  bool in_bytes_;
+  alignas(16) std::array<Pattern, many> patterns_;
 };
 
 }  // namespace textio::model

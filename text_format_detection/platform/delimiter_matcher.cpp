@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Building matchers, and the test of a list of strings: the range and then the set of
-// first units turn most positions away before any string is compared.
+// Building matchers, and the test of a list of strings: the range and then the set of first units
+// turn most positions away before any string is compared, and most matches are a single unit.
 #include "text_format_detection/platform/delimiter_matcher.hpp"
 
 #include <algorithm>
@@ -17,6 +17,7 @@ DelimiterMatcher::Mode make_mode(std::vector<std::u16string> const& strings) {
     return DelimiterMatcher::SingleUnit{strings.front().front()};
   }
   DelimiterMatcher::StringList list;
+  list.strings.reserve(strings.size());
   for (std::u16string const& string : strings) {
     if (string.empty() || string.find(end_mark) != std::u16string::npos) {
       continue;
@@ -25,6 +26,9 @@ DelimiterMatcher::Mode make_mode(std::vector<std::u16string> const& strings) {
     char16_t const first_unit = string.front();
     if (list.first_units.find(first_unit) == std::u16string::npos) {
       list.first_units.push_back(first_unit);
+      if (string.size() == 1) {
+        list.lone_units.push_back(first_unit);
+      }
     }
     list.lowest_first_unit = std::min(list.lowest_first_unit, first_unit);
     list.highest_first_unit = std::max(list.highest_first_unit, first_unit);
@@ -36,6 +40,9 @@ DelimiterMatcher::Mode make_mode(std::vector<std::u16string> const& strings) {
 
 std::size_t DelimiterMatcher::StringList::length_of_match(
     std::u16string_view const text) const noexcept {
+  if (lone_units.find(text.front()) != std::u16string::npos) {
+    return 1;
+  }
   if (first_units.find(text.front()) == std::u16string::npos) {
     return 0;
   }

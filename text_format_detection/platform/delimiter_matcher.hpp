@@ -36,6 +36,7 @@ class TFD_API DelimiterMatcher {
   struct StringList {
     std::vector<std::u16string> strings;  ///< in list order
     std::u16string first_units;           ///< the first code unit of each string, once
+    std::u16string lone_units;            ///< those of them at which a string of that unit matches
     char16_t lowest_first_unit = 0xFFFF;  ///< no string begins with a code unit below this one
     char16_t highest_first_unit = 0;      ///< nor with one above this
 

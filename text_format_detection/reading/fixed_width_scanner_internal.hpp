@@ -22,34 +22,37 @@ namespace textio::reading {
 template <class LineEndings>
 class FixedWidthScanner {
  public:
-  FixedWidthScanner(parser::FixedWidthRecordReader const& reader, LineEndings const& line_endings)
+  FixedWidthScanner(parser::FixedWidthRecordReader const& reader, LineEndings const& line_endings,
+                    std::u16string_view const text)
       : options_(reader.options()),
         line_endings_(line_endings),
-        stops_(reader.stop_characters()),
+        text_(text),
+        stops_(text, reader.stop_characters()),
         whitespace_(options_.whitespace) {}
 
-  /// Scans the record at the start of `text`. Throws partial_field_error under the rule Error.
-  void scan(std::u16string_view const text, RecordScan& scan) const {
-    scan.clear();
-    std::size_t pos = 0;
+  [[nodiscard]] std::u16string_view text() const noexcept { return text_; }
+
+  /// Scans the record at `start`. Throws partial_field_error under the rule Error.
+  void scan(std::size_t const start, RecordScan& scan) {
+    scan.restart(start);
+    std::size_t pos = start;
     for (std::size_t const width : options_.column_widths) {
-      Column const column = cut_column(text, pos, width);
+      Column const column = cut_column(pos, width);
       if (column.ending != 0) {
         end_inside_column(pos, column, scan);
         return;
       }
       scan.add_field(pos, column.end);
       pos = column.end;
-      if (finish_at(text, pos, scan)) {
+      if (finish_at(pos, scan)) {
         return;
       }
     }
-    scan_rest_of_line(text, pos, scan);
+    scan_rest_of_line(pos, scan);
   }
 
   /// Fixed-width records have no delimiters to be ignored.
-  [[nodiscard]] std::size_t skip_ignored_delimiters(std::u16string_view /*text*/,
-                                                    std::size_t const pos) const {
+  [[nodiscard]] static std::size_t skip_ignored_delimiters(std::size_t const pos) noexcept {
     return pos;
   }
 
@@ -66,18 +69,16 @@ class FixedWidthScanner {
   }
 
   /// The column that begins at `pos`, cut at a line ending or at the end of the text.
-  [[nodiscard]] Column cut_column(std::u16string_view const text, std::size_t pos,
-                                  std::size_t const width) const {
-    std::size_t const limit = pos + std::min(width, text.size() - pos);
-    std::u16string_view const column = text.substr(0, limit);
-    for (pos = stops_.find(column, pos); !model::at_end(column, pos);
-         pos = stops_.find(column, pos + 1)) {
-      std::size_t const ending = wraps() ? 0 : line_endings_.length_at(text, pos);
+  [[nodiscard]] Column cut_column(std::size_t pos, std::size_t const width) {
+    std::size_t const limit = pos + std::min(width, text_.size() - pos);
+    for (pos = stops_.find(pos); pos < limit && text_[pos] != end_mark;
+         pos = stops_.find(pos + 1)) {
+      std::size_t const ending = wraps() ? 0 : line_endings_.length_at(text_, pos);
       if (ending != 0) {
         return {pos, ending};
       }
     }
-    return {pos, 0};
+    return {std::min(pos, limit), 0};
   }
 
   /// The record's line ends inside the column that begins at `pos`.
@@ -99,37 +100,34 @@ class FixedWidthScanner {
         scan.add_field(pos, column.end);
         break;
     }
-    scan.occupied = column.end + column.ending;
+    scan.occupied = column.end + column.ending - scan.start();
   }
 
   /// Ends the record at `pos` if the line or the text ends there.
-  [[nodiscard]] bool finish_at(std::u16string_view const text, std::size_t const pos,
-                               RecordScan& scan) const {
-    std::size_t const ending = line_endings_.length_at(text, pos);
-    if (ending == 0 && !model::at_end(text, pos)) {
+  [[nodiscard]] bool finish_at(std::size_t const pos, RecordScan& scan) const {
+    std::size_t const ending = line_endings_.length_at(text_, pos);
+    if (ending == 0 && !model::at_end(text_, pos)) {
       return false;
     }
-    scan.occupied = pos + ending + end_of_text_length(text, pos);
+    scan.occupied = pos + ending + end_of_text_length(pos) - scan.start();
     return true;
   }
 
-  void scan_rest_of_line(std::u16string_view const text, std::size_t const pos,
-                         RecordScan& scan) const {
-    std::size_t end = stops_.find(text, pos);
-    while (!finish_at(text, end, scan)) {
-      end = stops_.find(text, end + 1);
+  void scan_rest_of_line(std::size_t const pos, RecordScan& scan) {
+    std::size_t end = stops_.find(pos);
+    while (!finish_at(end, scan)) {
+      end = stops_.find(end + 1);
     }
-    if (!model::consists_of(text.substr(pos, end - pos), whitespace_)) {
+    if (!model::consists_of(text_.substr(pos, end - pos), whitespace_)) {
       scan.add_field(pos, end);
     }
   }
 
   /// What a record occupies behind the end of the text: one unit when the end mark itself is the
   /// line ending, which is what is read there.
-  [[nodiscard]] std::size_t end_of_text_length(std::u16string_view const text,
-                                               std::size_t const pos) const noexcept {
+  [[nodiscard]] std::size_t end_of_text_length(std::size_t const pos) const noexcept {
     if constexpr (std::is_same_v<LineEndings, DelimiterMatcher::SingleUnit>) {
-      return pos == text.size() && line_endings_.unit == end_mark ? 1 : 0;
+      return pos == text_.size() && line_endings_.unit == end_mark ? 1 : 0;
     } else {
       return 0;
     }
@@ -137,15 +135,17 @@ class FixedWidthScanner {
 
   parser::options const& options_;
   LineEndings const& line_endings_;
+  std::u16string_view text_;
   model::UnitSearch stops_;
   model::UnitSet whitespace_;
 };
 
-/// Calls `use` with the scanner for the reader's matcher.
+/// Calls `use` with a scanner of the text, for the reader's matcher.
 template <class Use>
-auto with_scanner(parser::FixedWidthRecordReader const& reader, Use use) {
+auto with_scanner(parser::FixedWidthRecordReader const& reader, std::u16string_view const text,
+                  Use use) {
   return std::visit(
-      [&](auto const& line_endings) { return use(FixedWidthScanner(reader, line_endings)); },
+      [&](auto const& line_endings) { return use(FixedWidthScanner(reader, line_endings, text)); },
       reader.line_endings().mode());
 }
 

@@ -4,7 +4,6 @@
 // once, over a scanner (what a record is) and a policy for comments.
 #pragma once
 
-#include <algorithm>
 #include <cstddef>
 #include <optional>
 #include <string_view>
@@ -29,7 +28,7 @@ struct ReadLimits {
 
 /// A comment at the start of a record, and what follows it on its last line.
 struct SkippedComment {
-  std::size_t units;  ///< code units up to the data behind it, or through its line ending
+  std::size_t end;    ///< the position of the data behind it, or behind its line ending
   std::size_t lines;  ///< the lines that hold nothing but comment
   bool data_follows;  ///< data stands behind the comment, on its last line
 };
@@ -37,8 +36,7 @@ struct SkippedComment {
 /// No comment markers are given.
 struct NoComments {
   template <class Scanner>
-  [[nodiscard]] static std::optional<SkippedComment> skip(std::u16string_view /*text*/,
-                                                          std::size_t /*offset*/,
+  [[nodiscard]] static std::optional<SkippedComment> skip(std::size_t /*start*/,
                                                           Scanner const& /*scanner*/) noexcept {
     return std::nullopt;
   }
@@ -50,17 +48,17 @@ class SkipComments {
   explicit SkipComments(parser::options const& options)
       : matcher_(options), whitespace_(options.whitespace) {}
 
-  /// The comment at the start of `text`, which begins `offset` units into the text being read.
+  /// The comment of the record at `start`.
   template <class Scanner>
-  [[nodiscard]] std::optional<SkippedComment> skip(std::u16string_view const text,
-                                                   std::size_t const offset,
+  [[nodiscard]] std::optional<SkippedComment> skip(std::size_t const start,
                                                    Scanner const& scanner) {
-    auto const comment = matcher_.match(text, record_start(text, offset, scanner));
+    std::u16string_view const text = scanner.text();
+    auto const comment = matcher_.match(text, content_start(start, scanner));
     if (!comment) {
       return std::nullopt;
     }
     std::size_t const behind =
-        scanner.skip_ignored_delimiters(text, model::skip_members(text, comment->end, whitespace_));
+        scanner.skip_ignored_delimiters(model::skip_members(text, comment->end, whitespace_));
     std::size_t const ending = matcher_.line_endings().length_at(text, behind);
     if (ending != 0 || model::at_end(text, behind)) {
       return SkippedComment{behind + ending, comment->num_lines, false};
@@ -69,18 +67,16 @@ class SkipComments {
   }
 
  private:
-  /// Where the content of the record at the start of `text` begins. Where the whitespace holds the
-  /// line ending, that is behind all the blank lines from here on; the next of them would skip the
-  /// same whitespace again, so that the position reached is remembered.
+  /// Where the content of the record at `start` begins. Where the whitespace holds the line ending,
+  /// that is behind all the blank lines from here on; the next of them would skip the same
+  /// whitespace again, so that the position reached is remembered.
   template <class Scanner>
-  [[nodiscard]] std::size_t record_start(std::u16string_view const text, std::size_t const offset,
-                                         Scanner const& scanner) {
-    if (offset > known_whitespace_end_ || known_whitespace_end_ == 0) {
-      std::size_t const whitespace_end = model::skip_members(text, 0, whitespace_);
-      known_whitespace_end_ = offset + whitespace_end;
-      known_start_ = offset + scanner.skip_ignored_delimiters(text, whitespace_end);
+  [[nodiscard]] std::size_t content_start(std::size_t const start, Scanner const& scanner) {
+    if (start > known_whitespace_end_ || known_whitespace_end_ == 0) {
+      known_whitespace_end_ = model::skip_members(scanner.text(), start, whitespace_);
+      known_start_ = scanner.skip_ignored_delimiters(known_whitespace_end_);
     }
-    return known_start_ - offset;
+    return known_start_;
   }
 
   CommentMatcher matcher_;
@@ -94,18 +90,18 @@ class SkipComments {
 template <class Scanner, class Comments>
 class ReadingLoop {
  public:
-  ReadingLoop(parser::options const& options, Scanner const& scanner, Comments comments,
+  ReadingLoop(parser::options const& options, Scanner& scanner, Comments comments,
               ReadLimits const& limits, RecordStore& store)
       : options_(options),
         scanner_(scanner),
         comments_(std::move(comments)),
         limits_(limits),
         store_(store),
-        whitespace_(options.whitespace) {}
+        whitespace_(options.whitespace),
+        text_(scanner.text()) {}
 
   /// Throws the parser errors of the rules set to Error; the records before stay stored.
-  ReadSummary run(std::u16string_view const text) {
-    text_ = text;
+  ReadSummary run() {
     std::size_t const stored_before = store_.num_records();
     bool const goes_on = limits_.records > 0 && limits_.lines > 0 && read_to_end();
     if (goes_on && !limits_.sampling && options_.empty_lines == enums::EmptyLineRule::Read &&
@@ -119,7 +115,7 @@ class ReadingLoop {
  private:
   /// Reads until the text ends (true) or a limit is reached (false).
   bool read_to_end() {
-    while (!model::at_end(text_, 0)) {
+    while (!model::at_end(text_, summary_.units_consumed)) {
       if (!read_line()) {
         return false;
       }
@@ -129,8 +125,8 @@ class ReadingLoop {
 
   /// Reads one record, or a comment that fills its lines. Returns whether to go on.
   bool read_line() {
-    if (auto const comment = comments_.skip(text_, summary_.units_consumed, scanner_)) {
-      consume(comment->units);
+    if (auto const comment = comments_.skip(summary_.units_consumed, scanner_)) {
+      summary_.units_consumed = comment->end;
       pass_comment_lines(comment->lines);
       if (summary_.lines_scanned > limits_.lines) {
         return false;
@@ -142,7 +138,7 @@ class ReadingLoop {
     scan_record();
     keep_record();
     ++summary_.lines_scanned;
-    consume(scan_.occupied);
+    summary_.units_consumed += scan_.occupied;
     bool const limit_reached =
         num_counted_ >= limits_.records || summary_.lines_scanned >= limits_.lines;
     return !limit_reached && scan_.occupied > 0;
@@ -157,7 +153,7 @@ class ReadingLoop {
 
   void scan_record() {
     try {
-      scanner_.scan(text_, scan_);
+      scanner_.scan(summary_.units_consumed, scan_);
     } catch (parser::exception::partial_field_error& error) {
       error.record = num_counted_;
       throw parser::exception::partial_field_error(error);
@@ -185,16 +181,12 @@ class ReadingLoop {
   /// Whether nothing but whitespace stands before the end of the record's last field.
   [[nodiscard]] bool is_empty_record() const {
     return scan_.status == RecordScan::Status::Whole &&
-           model::consists_of(text_.substr(0, scan_.last_end()), whitespace_);
-  }
-
-  void consume(std::size_t const units) {
-    text_.remove_prefix(std::min(units, text_.size()));
-    summary_.units_consumed = model::saturated_sum(summary_.units_consumed, units);
+           model::consists_of(text_.substr(scan_.start(), scan_.last_end() - scan_.start()),
+                              whitespace_);
   }
 
   parser::options const& options_;
-  Scanner const& scanner_;
+  Scanner& scanner_;
   Comments comments_;
   ReadLimits limits_;
   RecordStore& store_;
@@ -205,16 +197,16 @@ class ReadingLoop {
   std::size_t num_counted_ = 0;
 };
 
-/// Reads `text` with the loop that the options ask for: comment-aware when they hold markers.
+/// Reads a text with the loop that the options ask for: comment-aware when they hold markers.
 template <class Reader>
 ReadSummary run_reading_loop(Reader const& reader, std::u16string_view const text,
                              ReadLimits const& limits, RecordStore& store) {
   parser::options const& options = reader.options();
-  return with_scanner(reader, [&](auto const& scanner) {
+  return with_scanner(reader, text, [&](auto scanner) {
     if (options.comment_style.empty()) {
-      return ReadingLoop(options, scanner, NoComments{}, limits, store).run(text);
+      return ReadingLoop(options, scanner, NoComments{}, limits, store).run();
     }
-    return ReadingLoop(options, scanner, SkipComments(options), limits, store).run(text);
+    return ReadingLoop(options, scanner, SkipComments(options), limits, store).run();
   });
 }
 

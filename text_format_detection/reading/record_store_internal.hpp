@@ -13,8 +13,8 @@
 
 namespace textio::reading {
 
-/// What a scanner found out about one record. Positions are relative to the record's start. Scans
-/// of one text share one, so that its room is made once.
+/// What a scanner found out about one record. Positions are those of the text that it scans, whose
+/// scans share one, so that its room is made once.
 class RecordScan {
  public:
   /// What became of a fixed-width record that ends inside a column.
@@ -26,38 +26,35 @@ class RecordScan {
   bool ends_text = false;
   Status status = Status::Whole;
 
-  /// Starts a new record.
-  void clear() noexcept {
-    num_fields_ = 0;
+  /// Starts a new record at `start`.
+  void restart(std::size_t const start) noexcept {
+    start_ = start;
+    fields_.clear();
     occupied = 0;
     ends_text = false;
     status = Status::Whole;
   }
 
   void add_field(std::size_t const start, std::size_t const end) {
-    if (num_fields_ == slots_.size()) {
-      slots_.resize(2 * slots_.size() + 8);
-    }
-    slots_[num_fields_] = {start, end};
-    ++num_fields_;
+    fields_.push_back({start, end});
   }
 
-  void drop_last_field() noexcept { --num_fields_; }
+  void drop_last_field() noexcept { fields_.pop_back(); }
 
-  [[nodiscard]] std::span<FieldBounds const> fields() const noexcept {
-    return std::span(slots_).first(num_fields_);
-  }
+  [[nodiscard]] std::size_t start() const noexcept { return start_; }
 
-  [[nodiscard]] std::size_t num_fields() const noexcept { return num_fields_; }
+  [[nodiscard]] std::span<FieldBounds const> fields() const noexcept { return fields_; }
 
-  /// The end of the last field; 0 without fields.
+  [[nodiscard]] std::size_t num_fields() const noexcept { return fields_.size(); }
+
+  /// The end of the last field; the record's start without fields.
   [[nodiscard]] std::size_t last_end() const noexcept {
-    return num_fields_ == 0 ? 0 : slots_[num_fields_ - 1].end;
+    return fields_.empty() ? start_ : fields_.back().end;
   }
 
  private:
-  std::vector<FieldBounds> slots_;  // the fields, and free slots behind them
-  std::size_t num_fields_ = 0;
+  std::vector<FieldBounds> fields_;
+  std::size_t start_ = 0;
 };
 
 /// Stores records in a field array.
@@ -68,8 +65,8 @@ class RecordStore {
   RecordStore(FieldArray& fields, std::u16string_view whitespace, std::size_t max_fields)
       : fields_(fields), whitespace_(whitespace), max_fields_(max_fields) {}
 
-  /// Stores a scanned record that begins where `text` does. Fields are stored untrimmed: type
-  /// inspection trims for itself, and the shape of a line is in its blanks.
+  /// Stores a record scanned in `text`. Fields are stored untrimmed: type inspection trims for
+  /// itself, and the shape of a line is in its blanks.
   void store(std::u16string_view text, RecordScan const& scan);
 
   void store_empty() { fields_.append_empty_record(); }

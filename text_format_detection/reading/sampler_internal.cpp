@@ -45,7 +45,9 @@ void sample_strategy(SamplingContext& ctx, std::shared_ptr<GenericStrategy> cons
     return;
   }
   set_field_limit(ctx, *strategy);
+  ctx.fields->reserve(ctx.num_records_before);
   fill_fields(ctx, *strategy);
+  ctx.num_records_before = ctx.fields->num_records();
   strategy->field_array(std::move(ctx.fields));
   ctx.limit_fields = false;
   ctx.max_fields = unknown_count;

@@ -29,6 +29,8 @@ struct SamplingContext {
   /// Whether a record keeps at most `max_fields` fields.
   bool limit_fields = false;
   std::size_t max_fields = unknown_count;
+  /// The number of records sampled last, for which the next array gets its room at once.
+  std::size_t num_records_before = 0;
   /// The whitespace of the strategy sampled last: one-field records are trimmed by it.
   std::unique_ptr<std::u16string> whitespace;
 };

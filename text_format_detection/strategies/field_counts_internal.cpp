@@ -43,6 +43,7 @@ std::size_t typical_field_count(std::vector<std::size_t> const& counts, std::siz
   auto const num_lines =
       static_cast<std::size_t>(counts.end() - first - std::count(first, counts.end(), 0U));
   std::vector<std::size_t> several;
+  several.reserve(num_lines);
   std::copy_if(first, counts.end(), std::back_inserter(several),
                [](std::size_t const n) { return n >= 2; });
   if (several.empty() || (num_lines > few_lines && several.size() < num_lines / 3)) {
@@ -55,6 +56,7 @@ std::vector<std::size_t> field_count_deviations(std::vector<std::size_t> const& 
                                                 std::size_t const typical) {
   auto const end = std::find(counts.rbegin(), counts.rend(), typical).base();
   std::vector<std::size_t> deviations;
+  deviations.reserve(static_cast<std::size_t>(end - counts.begin()));
   for (auto count = counts.begin(); count != end; ++count) {
     if (*count != 0) {
       deviations.push_back(distance(*count, typical));

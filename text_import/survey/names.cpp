@@ -1,10 +1,24 @@
 // SPDX-License-Identifier: MIT
 //
-// The words of the survey's enumerations.
+// The words of the survey's enumerations, and the layout that the library's readings have in it.
 #include "text_import/survey/column_findings.hpp"
 #include "text_import/survey/survey.hpp"
 
 namespace textimport {
+
+table_layout layout_of(textio::enums::StrategyMode const mode) noexcept {
+  switch (mode) {
+    case textio::enums::StrategyMode::Delimited:
+      return table_layout::Delimited;
+    case textio::enums::StrategyMode::SpaceAligned:
+      return table_layout::SpaceAligned;
+    case textio::enums::StrategyMode::FixedWidth:
+      return table_layout::FixedWidth;
+    case textio::enums::StrategyMode::LineReader:
+      break;
+  }
+  return table_layout::Lines;
+}
 
 char const* name_of(table_layout const layout) noexcept {
   switch (layout) {

@@ -13,21 +13,6 @@ namespace {
 
 using textio::Field;
 using textio::FieldArray;
-using textio::enums::StrategyMode;
-
-table_layout layout_of(StrategyMode const mode) noexcept {
-  switch (mode) {
-    case StrategyMode::Delimited:
-      return table_layout::Delimited;
-    case StrategyMode::SpaceAligned:
-      return table_layout::SpaceAligned;
-    case StrategyMode::FixedWidth:
-      return table_layout::FixedWidth;
-    case StrategyMode::LineReader:
-      break;
-  }
-  return table_layout::Lines;
-}
 
 /// Finds the lines of the records. A record without fields takes the line behind the one before.
 void place_records(reading& r, sample_lines const& lines) {

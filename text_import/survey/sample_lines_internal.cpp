@@ -25,16 +25,33 @@ std::size_t ending_length(std::u16string_view const text,
   return found == line_endings.end() ? 0 : found->size();
 }
 
+constexpr bool is_blank(char16_t const c) noexcept {
+  return c == u' ' || c == u'\t';
+}
+
 }  // namespace
 
 sample_lines::sample_lines(std::u16string_view const text,
                            std::vector<std::u16string> const& line_endings)
     : text_(text) {
+  for (char16_t const c : text) {
+    if (c < held_.size()) {
+      held_[c] = true;
+    } else {
+      is_ascii_ = false;
+    }
+  }
   std::u16string const firsts = first_units(line_endings);
+  char16_t const highest = firsts.empty() ? u'\0' : std::ranges::max(firsts);
+  auto const may_end_line = [&](char16_t const c) {
+    return c <= highest && firsts.find(c) != std::u16string::npos;
+  };
   std::size_t start = 0;
   std::size_t pos = 0;
   while (start < text.size()) {
-    pos = std::min(text.find_first_of(firsts, pos), text.size());
+    while (pos < text.size() && !may_end_line(text[pos])) {
+      ++pos;
+    }
     std::size_t const length = ending_length(text.substr(pos), line_endings);
     if (length == 0 && pos < text.size()) {
       ++pos;
@@ -52,13 +69,14 @@ std::size_t sample_lines::line_at(std::size_t const position) const noexcept {
   return behind == starts_.begin() ? 0 : static_cast<std::size_t>(behind - starts_.begin()) - 1;
 }
 
-std::u16string_view trimmed(std::u16string_view const text) noexcept {
-  constexpr std::u16string_view blanks = u" \t";
-  std::size_t const first = text.find_first_not_of(blanks);
-  if (first == std::u16string_view::npos) {
-    return {};
+std::u16string_view trimmed(std::u16string_view text) noexcept {
+  while (!text.empty() && is_blank(text.front())) {
+    text.remove_prefix(1);
   }
-  return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+  while (!text.empty() && is_blank(text.back())) {
+    text.remove_suffix(1);
+  }
+  return text;
 }
 
 }  // namespace textimport::survey

@@ -4,6 +4,7 @@
 // position belongs to.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -32,6 +33,12 @@ class sample_lines {
     return line < starts_.size() ? starts_[line] : text_.size();
   }
 
+  /// Whether every code unit of the text is an ASCII character.
+  [[nodiscard]] bool is_ascii() const noexcept { return is_ascii_; }
+
+  /// Whether an ASCII character stands anywhere in the text.
+  [[nodiscard]] bool hold(char16_t const character) const noexcept { return held_[character]; }
+
   /// The line that holds the position or whose ending does. The text must have a line.
   [[nodiscard]] std::size_t line_at(std::size_t position) const noexcept;
 
@@ -39,6 +46,8 @@ class sample_lines {
   std::u16string_view text_;
   std::vector<std::size_t> starts_;
   std::vector<std::size_t> ends_;
+  std::array<bool, 128> held_{};
+  bool is_ascii_ = true;
 };
 
 /// The text without blanks (spaces and tabs) at both ends.

@@ -12,6 +12,7 @@
 #include <string_view>
 #include <vector>
 
+#include "text_format_detection/model/enums.hpp"
 #include "text_format_detection/model/field.hpp"
 #include "text_format_detection/model/options.hpp"
 #include "text_format_detection/platform/type_analyzer_options.hpp"
@@ -40,6 +41,9 @@ enum class line_role : std::uint8_t {
   Separator,  ///< "sep=;", with which a spreadsheet names its delimiter
   Footer,     ///< text below the data
 };
+
+/// The layout of a text that is read in this mode.
+[[nodiscard]] TEXT_IMPORT_API table_layout layout_of(textio::enums::StrategyMode mode) noexcept;
 
 /// The word for a layout or a role in machine-readable output: "space-aligned", "names" ...
 [[nodiscard]] TEXT_IMPORT_API char const* name_of(table_layout layout) noexcept;

@@ -58,6 +58,11 @@ template <class Count>
 std::optional<column_extent> agreed_extent(sample_lines const& lines, std::size_t const first,
                                            std::size_t const end, std::size_t const from,
                                            std::size_t const behind, Count const count) {
+  if (lines.is_ascii()) {
+    auto const width = count(view(u" "));
+    return first < end && width ? std::optional(column_extent{from * *width, behind * *width})
+                                : std::nullopt;
+  }
   std::optional<column_extent> agreed;
   for (std::size_t i = first; i < end; ++i) {
     auto const begin = count(lines[i].substr(0, from));

@@ -21,6 +21,10 @@ bool was_sampled(textio::detection::DetectionReport const& report, char16_t cons
   });
 }
 
+constexpr bool is_letter_or_digit(char16_t const c) {
+  return (c >= u'0' && c <= u'9') || (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z');
+}
+
 /// How often each character of a set stands in the line.
 std::map<char16_t, std::size_t> count_signs(view const line, bool (*is_sign)(char16_t)) {
   std::map<char16_t, std::size_t> counts;
@@ -64,21 +68,32 @@ std::set<char16_t> constant_signs(sample_lines const& lines, bool (*is_sign)(cha
   return signs;
 }
 
-/// Whether the character stands in pairs only, and in most lines.
-bool is_doubled(sample_lines const& lines, char16_t const c) {
-  std::size_t with_pairs = 0;
+/// The characters of a set that stand in pairs only, and in most lines.
+std::u16string doubled_signs(sample_lines const& lines, view const signs) {
   std::size_t const looked_at = std::min(lines.count(), lines_looked_at);
-  for (std::size_t i = 0; i < looked_at; ++i) {
+  std::u16string left(signs);
+  std::vector<std::size_t> lines_with(signs.size(), 0);
+  for (std::size_t i = 0; i < looked_at && !left.empty(); ++i) {
     view const line = lines[i];
-    std::size_t const first = line.find(c);
-    with_pairs += first == view::npos ? 0U : 1U;
-    for (std::size_t pos = first; pos != view::npos; pos = line.find(c, pos + 2)) {
+    std::u16string met;
+    for (std::size_t pos = 0; pos < line.size(); ++pos) {
+      char16_t const c = line[pos];
+      if (c >= 0x80 || is_letter_or_digit(c) || left.find(c) == view::npos) {
+        continue;
+      }
       if (pos + 1 == line.size() || line[pos + 1] != c) {
-        return false;
+        std::erase(left, c);
+        continue;
+      }
+      ++pos;
+      if (met.find(c) == view::npos) {
+        met += c;
+        ++lines_with[signs.find(c)];
       }
     }
   }
-  return with_pairs * 2 > looked_at;
+  std::erase_if(left, [&](char16_t const c) { return lines_with[signs.find(c)] * 2 <= looked_at; });
+  return left;
 }
 
 }  // namespace
@@ -87,17 +102,17 @@ std::vector<std::u16string> unguessed_delimiters(sample_lines const& lines,
                                                  textio::detection::DetectionReport const& report) {
   std::vector<std::u16string> delimiters;
   for (char16_t const c : view(u",\t;|")) {
-    if (!was_sampled(report, c) && lines.text().find(c) != view::npos) {
+    if (!was_sampled(report, c) && lines.hold(c)) {
       delimiters.emplace_back(1, c);
     }
   }
-  for (char16_t const c : view(u"|:;,~^#&@$")) {
-    if (is_doubled(lines, c)) {
-      delimiters.emplace_back(2, c);
-    }
+  for (char16_t const c : doubled_signs(lines, u"|:;,~^#&@$")) {
+    delimiters.emplace_back(2, c);
   }
-  for (char16_t const c : constant_signs(lines, is_foreign_sign)) {
-    delimiters.emplace_back(1, c);
+  if (!lines.is_ascii()) {
+    for (char16_t const c : constant_signs(lines, is_foreign_sign)) {
+      delimiters.emplace_back(1, c);
+    }
   }
   return delimiters;
 }

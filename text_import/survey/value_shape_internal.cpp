@@ -93,57 +93,89 @@ bool is_complex(view text) noexcept {
   return scan_number(text.substr(0, sign)) && scan_number(text.substr(sign));
 }
 
-/// Numbers that run together, such as "0.0528-1.5E-3" or "12.50.3": the characters of numbers, but
-/// no number, and no row of plain groups such as an address or a version.
-bool is_run_together(view const text) noexcept {
-  if (text.find_first_not_of(u"0123456789.+-EeDd") != view::npos) {
-    return false;
+/// What stands in a text, met from left to right.
+class text_scan {
+ public:
+  text_scan(view const text, char16_t const quote) noexcept {
+    for (std::size_t i = 0; i < text.size(); ++i) {
+      char16_t const c = text[i];
+      if (is_letter(c)) {
+        is_numeric_ = is_numeric_ && (lower(c) == u'd' || lower(c) == u'e');
+        only_groups_ = false;
+      } else if (!is_digit(c)) {
+        take_sign(c, text.substr(i + 1));
+      }
+      num_quotes_ += c == quote ? 1U : 0U;
+    }
   }
-  auto const points = std::ranges::count(text, u'.');
-  bool const only_groups = text.find_first_not_of(u"0123456789.") == view::npos;
-  return points >= 2 && !(only_groups && points <= 3);
-}
 
-/// Brackets that open and close in the wrong order or number.
-bool has_odd_brackets(view const text) noexcept {
-  int depth = 0;
-  for (char16_t const c : text) {
+  [[nodiscard]] bool has_blank() const noexcept { return has_blank_; }
+
+  [[nodiscard]] bool is_address() const noexcept { return has_scheme_ && !has_blank_; }
+
+  /// What a cut at the wrong place leaves.
+  [[nodiscard]] bool is_broken() const noexcept {
+    return has_gap_ || has_foreign_delimiter_ || has_odd_brackets_ || depth_ != 0 ||
+           is_run_together() || num_quotes_ % 2 != 0;
+  }
+
+ private:
+  static constexpr bool is_letter(char16_t const c) noexcept {
+    return lower(c) >= u'a' && lower(c) <= u'z';
+  }
+
+  void take_sign(char16_t const c, view const rest) noexcept {
+    bool const before_blank = rest.starts_with(u' ');
+    has_blank_ = has_blank_ || c == u' ';
+    has_gap_ = has_gap_ || (c == u' ' && rest.starts_with(u"  "));
+    has_scheme_ = has_scheme_ || (c == u':' && rest.starts_with(u"//"));
+    // Characters that usually stand between values are never alone inside one. A comma in front of
+    // a blank belongs to a sentence, and so does a semicolon there or at the end.
+    has_foreign_delimiter_ =
+        has_foreign_delimiter_ || c == u'\t' || c == u'|' || (c < 32 && c != u'\n' && c != u'\r') ||
+        (c == u';' && !rest.empty() && !before_blank) || (c == u',' && !before_blank);
+    take_bracket(c);
+    num_points_ += c == u'.' ? 1U : 0U;
+    only_groups_ = only_groups_ && c == u'.';
+    is_numeric_ = is_numeric_ && (c == u'.' || c == u'+' || c == u'-');
+  }
+
+  void take_bracket(char16_t const c) noexcept {
     if (c == u'(' || c == u'[' || c == u'{') {
-      ++depth;
-    } else if ((c == u')' || c == u']' || c == u'}') && --depth < 0) {
-      return true;
+      ++depth_;
+    } else if (c == u')' || c == u']' || c == u'}') {
+      --depth_;
+      has_odd_brackets_ = has_odd_brackets_ || depth_ < 0;
     }
   }
-  return depth != 0;
-}
 
-/// A character that usually stands between values: never alone inside one. A comma in front of a
-/// blank belongs to a sentence.
-bool has_foreign_delimiter(view const text) noexcept {
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    char16_t const c = text[i];
-    bool const is_last = i + 1 == text.size();
-    if (c == u'\t' || c == u'|' || (c == u';' && !is_last && text[i + 1] != u' ') ||
-        (c < 32 && c != u'\n' && c != u'\r')) {
-      return true;
-    }
-    if (c == u',' && (is_last || text[i + 1] != u' ')) {
-      return true;
-    }
+  /// Numbers such as "0.0528-1.5E-3" or "12.50.3": the characters of numbers, but no number, and no
+  /// row of plain groups such as an address or a version.
+  [[nodiscard]] bool is_run_together() const noexcept {
+    return is_numeric_ && num_points_ >= 2 && !(only_groups_ && num_points_ <= 3);
   }
-  return false;
-}
+
+  bool has_blank_ = false;
+  bool has_gap_ = false;  // three blanks in a row
+  bool has_scheme_ = false;
+  bool has_foreign_delimiter_ = false;
+  bool has_odd_brackets_ = false;  // one closes before it opens
+  bool is_numeric_ = true;
+  bool only_groups_ = true;
+  int depth_ = 0;
+  std::size_t num_points_ = 0;
+  std::size_t num_quotes_ = 0;
+};
 
 value_shape shape_of_text(view const text, char16_t const quote) noexcept {
-  bool const is_address = text.find(u"://") != view::npos && text.find(u' ') == view::npos;
-  if (is_address) {
+  text_scan const scan(text, quote);
+  if (scan.is_address()) {
     return value_shape::Word;
   }
-  if (text.find(u"   ") != view::npos || has_foreign_delimiter(text) || has_odd_brackets(text) ||
-      is_run_together(text) || (quote != 0 && std::ranges::count(text, quote) % 2 != 0)) {
+  if (scan.is_broken()) {
     return value_shape::Broken;
   }
-  return text.find(u' ') == view::npos ? value_shape::Word : value_shape::Phrase;
+  return scan.has_blank() ? value_shape::Phrase : value_shape::Word;
 }
 
 value_look look_inside(view const text, char16_t const quote) {
