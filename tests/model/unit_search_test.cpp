@@ -2,6 +2,8 @@
 //
 // The search for code units at every place of a text that is longer than two blocks, from places
 // before and behind the block searched last.
+#include <vector>
+
 #include <gtest/gtest.h>
 
 #include "text_format_detection/model/unit_search_internal.hpp"
@@ -11,8 +13,18 @@ namespace {
 TEST(UnitSearch, FindsEachUnitAtEachPosition) {
   constexpr std::size_t longest = 140;
   // Nothing, units below 255, others, and more of them than are compared one by one.
-  for (std::u16string const units : {u"", u"\n", u"\n\u00FE", u"\n,;", u"\n,;|", u"\u00FF",
-                                     u"\n\u0100,", u"\n,;|\t:#\"\uFFFE"}) {
+  std::vector<std::u16string> const sets{u"",
+                                         u"\n",
+                                         u"\n\u00FE",
+                                         u"\n,;",
+                                         u"\n,;|",
+                                         u"\u00FF",
+                                         u"\n\u0100",
+                                         u"\n\u0100,",
+                                         u"\n,;\u0100|",
+                                         u"\n,;|\t:#\"\uFFFE",
+                                         std::u16string(1, u'\0')};
+  for (std::u16string const& units : sets) {
     // What surrounds the unit looks like a line feed or an end mark in one of its bytes.
     std::u16string others = u"\u010A\u0A01\u8A0A\uFF0A\uFFFE\u00FF";
     std::erase_if(others, [&](char16_t const other) { return units.find(other) != units.npos; });
