@@ -59,14 +59,16 @@ template <class Reader>
 std::size_t scan_all(parser::options const& options, std::u16string_view const text) {
   Reader const reader(options);
   return reading::with_scanner(reader, text, [text](auto scanner) {
-    reading::RecordScan scan;
+    FieldArray array;
+    reading::RecordStore record(array, text, {}, unknown_count);
     std::size_t num_fields = 0;
     std::size_t start = 0;
     do {
-      scanner.scan(start, scan);
-      num_fields += scan.num_fields();
-      start += scan.occupied;
-    } while (scan.occupied > 0 && start < text.size());
+      scanner.scan(start, record);
+      num_fields += record.num_fields();
+      record.drop();
+      start += record.occupied;
+    } while (record.occupied > 0 && start < text.size());
     return num_fields;
   });
 }
@@ -106,7 +108,12 @@ Work score(Shape const& shape, std::u16string_view const text) {
 
 /// The bounds of the fields of a sample, all records in one list.
 struct KnownBounds {
-  std::vector<FieldBounds> fields;
+  struct Bounds {
+    std::size_t start;
+    std::size_t end;
+  };
+
+  std::vector<Bounds> fields;
   std::vector<std::size_t> record_ends;
 };
 
@@ -125,10 +132,13 @@ std::shared_ptr<KnownBounds const> find_bounds(Shape const& shape, std::u16strin
 Work store(Shape const& shape, std::u16string_view const text) {
   return [bounds = find_bounds(shape, text), text] {
     FieldArray array;
-    std::size_t start = 0;
-    for (std::size_t const end : bounds->record_ends) {
-      array.append_record(text.data(), std::span(bounds->fields).subspan(start, end - start));
-      start = end;
+    std::size_t next = 0;
+    for (std::size_t const record_end : bounds->record_ends) {
+      for (; next < record_end; ++next) {
+        auto const [start, end] = bounds->fields[next];
+        array.add_field(text.data() + start, end - start);
+      }
+      array.end_record();
     }
     return array.fields().size();
   };

@@ -39,6 +39,9 @@ TEST(binary_content, has_many_control_characters_of_several_kinds) {
   EXPECT_EQ(read_all(noise).error, "binary_content");
   EXPECT_EQ(read_all(made::packed("gzip", noise)).error, "binary_content");
   EXPECT_EQ(read_all(small_numbers).error, "binary_content");
+  std::string const odd = "\1\2\3\4\5\6\7\16\17\177\1\2\3\4\5\6\7\16\17\177";
+  EXPECT_EQ(read_all(std::string(300, 'x') + odd).error, "binary_content");
+  EXPECT_EQ(read_all(std::string(600, 'x') + odd).error, "") << "one in 32";
   EXPECT_EQ(read_all("a,b\nc,d\n" + std::string(1000, '\0')).error, "") << "padding";
   EXPECT_EQ(read_all(made::table_of(2000) + "\1\2\3\4\5\6\7").error, "") << "few in much text";
   open_options named;

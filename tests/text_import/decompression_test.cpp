@@ -6,6 +6,7 @@
 
 #include "tests/text_import/made_data.hpp"
 #include "tests/text_import/tables.hpp"
+#include "text_import/source/archive_library_internal.hpp"
 #include "text_import/source/decompression_internal.hpp"
 
 namespace textimport {
@@ -167,6 +168,18 @@ TEST(zip, with_a_member_larger_than_the_sample_says_what_was_not_seen) {
   EXPECT_EQ(two.error, "several_members");
   options.member = "b";
   EXPECT_EQ(read_all(made::zip({{"a", big}, {"b", "2\n"}}), options).whole, u"2\n");
+}
+
+TEST(archive_library, that_cannot_be_loaded_is_named) {
+  for (std::string const file : {"no_such_library.so.1", "libz.so.1"}) {
+    try {
+      static_cast<void>(load_archive_library(file.c_str(), "made"));
+      ADD_FAILURE() << file << " was loaded";
+    } catch (import_error const& error) {
+      EXPECT_EQ(error.kind(), import_error_kind::UnsupportedArchive);
+      EXPECT_NE(error.message().find(file), std::string::npos) << error.message();
+    }
+  }
 }
 
 TEST(member, of_what_is_no_archive_is_an_error) {

@@ -77,6 +77,22 @@ TEST(sample, has_its_line_ends_and_odd_characters_counted) {
   });
 }
 
+TEST(sample, has_the_same_counts_wherever_they_stand) {
+  open_options options;
+  options.encoding = "UTF-8";
+  for (std::size_t before = 0; before < 520; ++before) {
+    SCOPED_TRACE(before);
+    outcome const read =
+        read_all(std::string(before, 'x') + std::string("\r\n\r\0\n\xEF\xBF\xBF\r", 9), options);
+    EXPECT_EQ(read.sample.size(), before + 7);
+    EXPECT_EQ(read.findings.line_endings.lf, 1U);
+    EXPECT_EQ(read.findings.line_endings.crlf, 1U);
+    EXPECT_EQ(read.findings.line_endings.cr, 2U);
+    EXPECT_EQ(read.findings.nuls, 1U);
+    EXPECT_EQ(read.findings.decoding.replaced_end_marks, 1U);
+  }
+}
+
 TEST(stream, goes_on_where_the_sample_ended_with_everything_counted) {
   std::string const begin = "\u00E4\u00F6\u00FC\u00DF\u00C4\n" + made::table_of(5000);
   std::string const text = begin + "\xFF" + made::table_of(5000) + "\xFE\xFE";

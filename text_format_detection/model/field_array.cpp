@@ -15,36 +15,29 @@ void FieldArray::reserve(std::size_t const num_records) {
   record_ends_.reserve(num_records);
 }
 
-void FieldArray::reserve_record(std::size_t const num_fields) {
-  if (num_fields > fields_.capacity() - fields_.size()) {
-    fields_.reserve(larger_capacity(num_fields));
-  }
-  if (record_ends_.size() == record_ends_.capacity()) {
-    record_ends_.reserve(2 * record_ends_.size() + 1);
-  }
-}
-
 /// Room for as many fields a record as so far, in all the records for which there is room; but at
 /// least twice and at most four times the room there was, or what `num_fields` more take.
-std::size_t FieldArray::larger_capacity(std::size_t const num_fields) const noexcept {
+void FieldArray::make_room(std::size_t const num_fields) {
   std::size_t const needed = fields_.size() + num_fields;
   std::size_t const expected = needed / (num_records() + 1) * record_ends_.capacity();
   std::size_t const room = fields_.capacity();
-  return std::max(needed, std::clamp(expected, 2 * room, 4 * room));
+  fields_.reserve(std::max(needed, std::clamp(expected, 2 * room, 4 * room)));
 }
 
 void FieldArray::append_record(std::span<Field const> const fields) {
-  reserve_record(fields.size());
+  if (fields.size() > fields_.capacity() - fields_.size()) {
+    make_room(fields.size());
+  }
+  record_ends_.push_back(fields_.size() + fields.size());
   fields_.insert(fields_.end(), fields.begin(), fields.end());
-  record_ends_.push_back(fields_.size());
 }
 
-void FieldArray::append_record(char16_t const* const text,
-                               std::span<FieldBounds const> const bounds) {
-  reserve_record(bounds.size());
-  for (FieldBounds const& field : bounds) {
-    fields_.emplace_back(text + field.start, field.end - field.start);
-  }
+void FieldArray::drop_open_fields(std::size_t const count) noexcept {
+  fields_.erase(fields_.end() - static_cast<std::ptrdiff_t>(open_fields().size() - count),
+                fields_.end());
+}
+
+void FieldArray::end_record() {
   record_ends_.push_back(fields_.size());
 }
 

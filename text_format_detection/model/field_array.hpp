@@ -12,12 +12,6 @@
 
 namespace textio {
 
-/// Where a field lies in a text: from one position up to, not including, another.
-struct FieldBounds {
-  std::size_t start;
-  std::size_t end;
-};
-
 /// The fields of a sample, record after record.
 ///
 /// `record_ends` has one entry for each stored record: the number of fields stored up to and
@@ -33,7 +27,7 @@ class TFD_API FieldArray {
   FieldArray& operator=(FieldArray&&) noexcept = default;
   ~FieldArray();
 
-  /// Every stored field, in text order.
+  /// Every field, in text order.
   [[nodiscard]] std::vector<Field> const& fields() const noexcept { return fields_; }
 
   /// One running total for each stored record.
@@ -66,16 +60,31 @@ class TFD_API FieldArray {
   void append_record(std::span<Field const> fields);
   void append_empty_record();
 
-  /// Appends one record whose fields lie in `text`. Throws std::bad_alloc, and changes nothing
-  /// then.
-  void append_record(char16_t const* text, std::span<FieldBounds const> bounds);
+  /// Adds a field to an open record, which stands behind the others until end_record() makes it
+  /// one of them. Throws std::bad_alloc, and changes nothing then.
+  void add_field(char16_t const* const data, std::size_t const length) {
+    if (fields_.size() == fields_.capacity()) {
+      make_room(1);
+    }
+    fields_.emplace_back(data, length);
+  }
+
+  /// The fields of the open record.
+  [[nodiscard]] std::span<Field const> open_fields() const noexcept {
+    return std::span<Field const>(fields_).subspan(record_start(num_records()));
+  }
+
+  /// Drops the fields of the open record but the first `count`, of which there have to be as many.
+  void drop_open_fields(std::size_t count) noexcept;
+
+  /// Ends the open record. Throws std::bad_alloc; the record is open still then.
+  void end_record();
 
   /// Removes the records without fields that stand behind the last record with fields.
   void drop_trailing_empty_records() noexcept;
 
  private:
-  void reserve_record(std::size_t num_fields);
-  [[nodiscard]] std::size_t larger_capacity(std::size_t num_fields) const noexcept;
+  void make_room(std::size_t num_fields);
 
   std::vector<Field> fields_;
   std::vector<std::size_t> record_ends_;

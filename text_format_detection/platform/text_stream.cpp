@@ -37,7 +37,15 @@ void TextStream::resizeInternalBuffer(std::size_t const length) const {
   if (length > buffer_.max_size() - 1 - start_) {
     throw std::length_error("TextStream: the buffer cannot grow to the requested length");
   }
-  buffer_.resize(start_ + length + 1, textio::end_mark);
+  std::size_t const size = start_ + length + 1;
+  if (size > buffer_.capacity()) {
+    decltype(buffer_) larger;
+    larger.reserve(std::max(size, std::min(2 * buffer_.size(), buffer_.max_size())));
+    larger.resize(end_ + 1);
+    std::copy_n(buffer_.data(), end_ + 1, larger.data());  // not the slots without a value
+    buffer_ = std::move(larger);
+  }
+  buffer_.resize(size);
 }
 
 std::size_t TextStream::refill() const {

@@ -5,11 +5,19 @@
 
 #include <cstddef>
 #include <functional>
+#include <memory>
+#include <new>
 #include <vector>
 
 #include "text_format_detection/export.hpp"
 
 namespace ostrel::io::text::stream {
+
+/// Gives new elements no value, so that room for a text costs nothing before text is in it.
+template <class Unit>
+struct UnfilledRoom : std::allocator<Unit> {
+  void construct(Unit* const room) noexcept { ::new (room) Unit; }
+};
 
 /// A stream of UTF-16 text: a buffer that starts at the current position and grows on demand.
 ///
@@ -17,9 +25,10 @@ namespace ostrel::io::text::stream {
 /// the buffer, so that views into it end there. Not for several threads at once.
 class TFD_API TextStream {
  public:
-  /// Writes up to `capacity` code units to `room` and returns how many; 0 means that the text has
-  /// ended, and the source is not asked again. May deliver fewer than there is room for. What it
-  /// throws passes through the stream, which keeps what was buffered before.
+  /// Writes up to `capacity` code units to `room`, which holds no values before, and returns how
+  /// many; 0 means that the text has ended, and the source is not asked again. May deliver fewer
+  /// than there is room for. What it throws passes through the stream, which keeps what was
+  /// buffered before.
   using Source = std::function<std::size_t(char16_t* room, std::size_t capacity)>;
 
   explicit TextStream(Source source);
@@ -52,8 +61,9 @@ class TFD_API TextStream {
   [[nodiscard]] std::size_t capacity() const noexcept;
 
   Source source_;
-  mutable std::vector<char16_t> buffer_;  // what was passed, the text, one slot for the end mark
-  mutable std::size_t end_ = 0;           // behind the last buffered unit, in the buffer
+  // What was passed, the text, the end mark, and slots without a value.
+  mutable std::vector<char16_t, UnfilledRoom<char16_t>> buffer_;
+  mutable std::size_t end_ = 0;  // behind the last buffered unit, in the buffer
   mutable bool at_end_ = false;
   std::size_t start_ = 0;  // the current position, in the buffer
 };

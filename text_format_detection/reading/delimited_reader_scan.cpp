@@ -8,15 +8,15 @@ namespace textio {
 
 namespace reading {
 
-void apply_trailing_rule(enums::TrailingDelimitersRule const rule, RecordScan& scan) {
+void apply_trailing_rule(enums::TrailingDelimitersRule const rule, RecordStore& record) {
   if (rule == enums::TrailingDelimitersRule::Keep) {
     return;
   }
-  while (scan.num_fields() > 0 && scan.fields().back().start == scan.fields().back().end) {
+  while (record.ends_with_empty_field()) {
     if (rule == enums::TrailingDelimitersRule::Error) {
       throw parser::exception::trailing_delimiters_error(0, 0, {}, {});
     }
-    scan.drop_last_field();
+    record.drop_last_field();
   }
 }
 

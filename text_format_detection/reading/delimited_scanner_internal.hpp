@@ -30,7 +30,7 @@ template <class Delimiters>
 
 /// Treats the empty fields at the end of a record by the trailing-delimiters rule.
 /// Throws trailing_delimiters_error under the rule Error.
-void apply_trailing_rule(enums::TrailingDelimitersRule rule, RecordScan& scan);
+void apply_trailing_rule(enums::TrailingDelimitersRule rule, RecordStore& record);
 
 /// `Delimiters` and `LineEndings` are modes of DelimiterMatcher.
 template <enums::ConsecutiveDelimitersRule Rule, class Delimiters, class LineEndings>
@@ -49,8 +49,8 @@ class DelimitedScanner {
   [[nodiscard]] std::u16string_view text() const noexcept { return text_; }
 
   /// Scans the record at `start`. Throws the errors of the three delimiter rules.
-  void scan(std::size_t const start, RecordScan& scan) {
-    scan.restart(start);
+  void scan(std::size_t const start, RecordStore& record) {
+    record.begin(start);
     TrailingRun run;
     std::size_t pos = skip_leading(start);
     std::size_t ending = line_endings_.length_at(text_, pos);
@@ -58,17 +58,18 @@ class DelimitedScanner {
     while (goes_on) {
       FieldEnd const field = find_field_end(pos);
       goes_on = field.delimiter_length != 0;
-      std::size_t const next = goes_on ? after_delimiter(field, scan.num_fields(), run) : field.end;
-      scan.add_field(pos, field.end);
+      std::size_t const next =
+          goes_on ? after_delimiter(field, record.num_fields(), run) : field.end;
+      record.add_field(pos, field.end);
       pos = next;
       ending = field.line_ending_length;
     }
-    apply_trailing_rule(reader_.options().trailing_delimiters_rule, scan);
-    if (run.pending && scan.num_fields() > run.first) {
+    apply_trailing_rule(reader_.options().trailing_delimiters_rule, record);
+    if (run.pending && record.num_fields() > run.first) {
       throw parser::exception::consecutive_delimiters_error(0, 0, {}, {});
     }
-    scan.occupied = pos + ending - start;
-    scan.ends_text = ending != 0 && model::at_end(text_, pos + ending);
+    record.occupied = pos + ending - start;
+    record.ends_text = ending != 0 && model::at_end(text_, pos + ending);
   }
 
   /// Where the content of a record begins: behind `pos` and the delimiters to be ignored there.

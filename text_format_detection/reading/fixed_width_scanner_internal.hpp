@@ -33,22 +33,22 @@ class FixedWidthScanner {
   [[nodiscard]] std::u16string_view text() const noexcept { return text_; }
 
   /// Scans the record at `start`. Throws partial_field_error under the rule Error.
-  void scan(std::size_t const start, RecordScan& scan) {
-    scan.restart(start);
+  void scan(std::size_t const start, RecordStore& record) {
+    record.begin(start);
     std::size_t pos = start;
     for (std::size_t const width : options_.column_widths) {
       Column const column = cut_column(pos, width);
       if (column.ending != 0) {
-        end_inside_column(pos, column, scan);
+        end_inside_column(pos, column, record);
         return;
       }
-      scan.add_field(pos, column.end);
+      record.add_field(pos, column.end);
       pos = column.end;
-      if (finish_at(pos, scan)) {
+      if (finish_at(pos, record)) {
         return;
       }
     }
-    scan_rest_of_line(pos, scan);
+    scan_rest_of_line(pos, record);
   }
 
   /// Fixed-width records have no delimiters to be ignored.
@@ -82,44 +82,44 @@ class FixedWidthScanner {
   }
 
   /// The record's line ends inside the column that begins at `pos`.
-  void end_inside_column(std::size_t const pos, Column const column, RecordScan& scan) const {
+  void end_inside_column(std::size_t const pos, Column const column, RecordStore& record) const {
     switch (options_.partial_field_rule) {
       case enums::PartialFieldRule::DropField:
-        scan.status = RecordScan::Status::FieldDropped;
+        record.status = RecordStore::Status::FieldDropped;
         break;
       case enums::PartialFieldRule::DropRecord:
-        scan.status = RecordScan::Status::RecordDropped;
+        record.status = RecordStore::Status::RecordDropped;
         break;
       case enums::PartialFieldRule::FillMissing:
-        scan.status = RecordScan::Status::Missing;
+        record.status = RecordStore::Status::Missing;
         break;
       case enums::PartialFieldRule::Error:
-        throw parser::exception::partial_field_error(0, scan.num_fields(), {}, u"\\n");
+        throw parser::exception::partial_field_error(0, record.num_fields(), {}, u"\\n");
       case enums::PartialFieldRule::Keep:
       case enums::PartialFieldRule::Wrap:  // not asked: such columns are not cut
-        scan.add_field(pos, column.end);
+        record.add_field(pos, column.end);
         break;
     }
-    scan.occupied = column.end + column.ending - scan.start();
+    record.occupied = column.end + column.ending - record.start();
   }
 
   /// Ends the record at `pos` if the line or the text ends there.
-  [[nodiscard]] bool finish_at(std::size_t const pos, RecordScan& scan) const {
+  [[nodiscard]] bool finish_at(std::size_t const pos, RecordStore& record) const {
     std::size_t const ending = line_endings_.length_at(text_, pos);
     if (ending == 0 && !model::at_end(text_, pos)) {
       return false;
     }
-    scan.occupied = pos + ending + end_of_text_length(pos) - scan.start();
+    record.occupied = pos + ending + end_of_text_length(pos) - record.start();
     return true;
   }
 
-  void scan_rest_of_line(std::size_t const pos, RecordScan& scan) {
+  void scan_rest_of_line(std::size_t const pos, RecordStore& record) {
     std::size_t end = stops_.find(pos);
-    while (!finish_at(end, scan)) {
+    while (!finish_at(end, record)) {
       end = stops_.find(end + 1);
     }
     if (!model::consists_of(text_.substr(pos, end - pos), whitespace_)) {
-      scan.add_field(pos, end);
+      record.add_field(pos, end);
     }
   }
 

@@ -28,14 +28,14 @@ class LineScanner {
   [[nodiscard]] std::u16string_view text() const noexcept { return text_; }
 
   /// Scans the record at `start`: at most one field, the line without its ending.
-  void scan(std::size_t const start, RecordScan& scan) {
-    scan.restart(start);
+  void scan(std::size_t const start, RecordStore& record) {
+    record.begin(start);
     std::size_t const end = find_value_end(start);
     std::size_t const ending = is_value_end(end) ? 0 : line_endings_.length_at(text_, end);
-    scan.occupied = end + ending - start;
-    scan.ends_text = ending != 0 && model::at_end(text_, end + ending);
+    record.occupied = end + ending - start;
+    record.ends_text = ending != 0 && model::at_end(text_, end + ending);
     if (end > start || reader_.reads_empty_values()) {
-      scan.add_field(start, end);
+      record.add_field(start, end);
     }
   }
 

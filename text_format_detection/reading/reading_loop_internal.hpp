@@ -97,7 +97,6 @@ class ReadingLoop {
         comments_(std::move(comments)),
         limits_(limits),
         store_(store),
-        whitespace_(options.whitespace),
         text_(scanner.text()) {}
 
   /// Throws the parser errors of the rules set to Error; the records before stay stored.
@@ -105,7 +104,7 @@ class ReadingLoop {
     std::size_t const stored_before = store_.num_records();
     bool const goes_on = limits_.records > 0 && limits_.lines > 0 && read_to_end();
     if (goes_on && !limits_.sampling && options_.empty_lines == enums::EmptyLineRule::Read &&
-        scan_.ends_text) {
+        store_.ends_text) {
       store_.store_empty();
     }
     summary_.records_stored = store_.num_records() - stored_before;
@@ -138,10 +137,10 @@ class ReadingLoop {
     scan_record();
     keep_record();
     ++summary_.lines_scanned;
-    summary_.units_consumed += scan_.occupied;
+    summary_.units_consumed += store_.occupied;
     bool const limit_reached =
         num_counted_ >= limits_.records || summary_.lines_scanned >= limits_.lines;
-    return !limit_reached && scan_.occupied > 0;
+    return !limit_reached && store_.occupied > 0;
   }
 
   void pass_comment_lines(std::size_t const lines) {
@@ -153,7 +152,7 @@ class ReadingLoop {
 
   void scan_record() {
     try {
-      scanner_.scan(summary_.units_consumed, scan_);
+      scanner_.scan(summary_.units_consumed, store_);
     } catch (parser::exception::partial_field_error& error) {
       error.record = num_counted_;
       throw parser::exception::partial_field_error(error);
@@ -161,16 +160,17 @@ class ReadingLoop {
   }
 
   void keep_record() {
-    if (!is_empty_record()) {
-      store_.store(text_, scan_);
+    if (!store_.is_empty()) {
+      store_.keep();
       ++num_counted_;
       return;
     }
     switch (options_.empty_lines) {
       case enums::EmptyLineRule::Skip:
+        store_.drop();
         break;
       case enums::EmptyLineRule::Read:
-        store_.store(text_, scan_);
+        store_.keep();
         num_counted_ += limits_.sampling ? 0U : 1U;
         break;
       case enums::EmptyLineRule::Error:
@@ -178,21 +178,12 @@ class ReadingLoop {
     }
   }
 
-  /// Whether nothing but whitespace stands before the end of the record's last field.
-  [[nodiscard]] bool is_empty_record() const {
-    return scan_.status == RecordScan::Status::Whole &&
-           model::consists_of(text_.substr(scan_.start(), scan_.last_end() - scan_.start()),
-                              whitespace_);
-  }
-
   parser::options const& options_;
   Scanner& scanner_;
   Comments comments_;
   ReadLimits limits_;
   RecordStore& store_;
-  model::UnitSet whitespace_;
   std::u16string_view text_;
-  RecordScan scan_;
   ReadSummary summary_;
   std::size_t num_counted_ = 0;
 };

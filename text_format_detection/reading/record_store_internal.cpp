@@ -1,24 +1,31 @@
 // SPDX-License-Identifier: MIT
 //
-// Storing one record. Whether it is empty is asked before the field limit cuts it.
+// Keeping one record. Whether it is empty is asked before the field limit cuts it.
 #include "text_format_detection/reading/record_store_internal.hpp"
 
 #include <algorithm>
-#include <span>
 
 namespace textio::reading {
 
-void RecordStore::store(std::u16string_view const text, RecordScan const& scan) {
-  std::span<FieldBounds const> const fields = scan.fields();
-  if (fields.empty() || (fields.size() == 1 && is_blank(text, fields.front()))) {
-    store_empty();
-    return;
+bool RecordStore::is_empty() const noexcept {
+  std::span<Field const> const fields = array_.open_fields();
+  if (status != Status::Whole) {
+    return false;
   }
-  fields_.append_record(text.data(), fields.first(std::min(fields.size(), max_fields_)));
+  if (fields.empty()) {
+    return true;
+  }
+  char16_t const* const end = fields.back().data() + fields.back().length();
+  std::size_t const length = static_cast<std::size_t>(end - text_.data()) - start_;
+  return model::consists_of(text_.substr(start_, length), whitespace_);
 }
 
-bool RecordStore::is_blank(std::u16string_view const text, FieldBounds const field) const {
-  return model::consists_of(text.substr(field.start, field.end - field.start), whitespace_);
+void RecordStore::keep() {
+  std::span<Field const> const fields = array_.open_fields();
+  bool const is_blank =
+      fields.size() == 1 && model::consists_of(fields.front().view(), whitespace_);
+  array_.drop_open_fields(is_blank ? 0 : std::min(fields.size(), max_fields_));
+  array_.end_record();
 }
 
 }  // namespace textio::reading

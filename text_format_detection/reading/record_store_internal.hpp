@@ -1,24 +1,38 @@
 // SPDX-License-Identifier: MIT
 //
-// From the bounds of one scanned record to the fields of one stored record.
+// Between a scanner, which finds the fields of one record after another, and the field array in
+// which they are stored.
 #pragma once
 
 #include <cstddef>
 #include <span>
 #include <string_view>
-#include <vector>
 
 #include "text_format_detection/model/field_array.hpp"
 #include "text_format_detection/model/text_view_internal.hpp"
 
 namespace textio::reading {
 
-/// What a scanner found out about one record. Positions are those of the text that it scans, whose
-/// scans share one, so that its room is made once.
-class RecordScan {
+/// The record that is being scanned, and the array that takes it in. Fields are written where they
+/// will stay; a record that is not kept is taken back. Positions are those of the text.
+class RecordStore {
  public:
   /// What became of a fixed-width record that ends inside a column.
   enum class Status : unsigned char { Whole = 0, Missing = 1, FieldDropped = 2, RecordDropped = 3 };
+
+  /// A record whose only field is `whitespace` is stored as an empty one. A record keeps
+  /// `max_fields` fields.
+  RecordStore(FieldArray& fields, std::u16string_view text, std::u16string_view whitespace,
+              std::size_t max_fields)
+      : array_(fields), text_(text), whitespace_(whitespace), max_fields_(max_fields) {}
+
+  RecordStore(RecordStore const&) = delete;
+  RecordStore(RecordStore&&) = delete;
+  RecordStore& operator=(RecordStore const&) = delete;
+  RecordStore& operator=(RecordStore&&) = delete;
+
+  /// Takes back the fields of a record whose scan ended with an error.
+  ~RecordStore() { drop(); }
 
   /// The number of code units of the record, its line ending included.
   std::size_t occupied = 0;
@@ -27,58 +41,48 @@ class RecordScan {
   Status status = Status::Whole;
 
   /// Starts a new record at `start`.
-  void restart(std::size_t const start) noexcept {
+  void begin(std::size_t const start) noexcept {
     start_ = start;
-    fields_.clear();
     occupied = 0;
     ends_text = false;
     status = Status::Whole;
   }
 
+  /// Fields are stored untrimmed: type inspection trims for itself, and the shape of a line is in
+  /// its blanks.
   void add_field(std::size_t const start, std::size_t const end) {
-    fields_.push_back({start, end});
+    array_.add_field(text_.data() + start, end - start);
   }
 
-  void drop_last_field() noexcept { fields_.pop_back(); }
+  void drop_last_field() noexcept { array_.drop_open_fields(num_fields() - 1); }
 
   [[nodiscard]] std::size_t start() const noexcept { return start_; }
 
-  [[nodiscard]] std::span<FieldBounds const> fields() const noexcept { return fields_; }
+  [[nodiscard]] std::size_t num_fields() const noexcept { return array_.open_fields().size(); }
 
-  [[nodiscard]] std::size_t num_fields() const noexcept { return fields_.size(); }
-
-  /// The end of the last field; the record's start without fields.
-  [[nodiscard]] std::size_t last_end() const noexcept {
-    return fields_.empty() ? start_ : fields_.back().end;
+  [[nodiscard]] bool ends_with_empty_field() const noexcept {
+    return num_fields() > 0 && array_.open_fields().back().empty();
   }
 
- private:
-  std::vector<FieldBounds> fields_;
-  std::size_t start_ = 0;
-};
+  /// Whether nothing but whitespace stands before the end of the record's last field.
+  [[nodiscard]] bool is_empty() const noexcept;
 
-/// Stores records in a field array.
-class RecordStore {
- public:
-  /// A record whose only field is `whitespace` is stored as an empty one. A record keeps
-  /// `max_fields` fields.
-  RecordStore(FieldArray& fields, std::u16string_view whitespace, std::size_t max_fields)
-      : fields_(fields), whitespace_(whitespace), max_fields_(max_fields) {}
+  /// Stores the record.
+  void keep();
 
-  /// Stores a record scanned in `text`. Fields are stored untrimmed: type inspection trims for
-  /// itself, and the shape of a line is in its blanks.
-  void store(std::u16string_view text, RecordScan const& scan);
+  /// Takes the record back.
+  void drop() noexcept { array_.drop_open_fields(0); }
 
-  void store_empty() { fields_.append_empty_record(); }
+  void store_empty() { array_.append_empty_record(); }
 
-  [[nodiscard]] std::size_t num_records() const noexcept { return fields_.num_records(); }
+  [[nodiscard]] std::size_t num_records() const noexcept { return array_.num_records(); }
 
  private:
-  [[nodiscard]] bool is_blank(std::u16string_view text, FieldBounds field) const;
-
-  FieldArray& fields_;
+  FieldArray& array_;
+  std::u16string_view text_;
   model::UnitSet whitespace_;
   std::size_t max_fields_;
+  std::size_t start_ = 0;
 };
 
 }  // namespace textio::reading

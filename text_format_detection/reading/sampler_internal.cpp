@@ -59,7 +59,7 @@ void sample_strategy(SamplingContext& ctx, std::shared_ptr<GenericStrategy> cons
 ReadSummary read_with_mode(parser::options const& options, enums::StrategyMode const mode,
                            std::u16string_view const text, ReadLimits const& limits,
                            ReadTarget const& target) {
-  RecordStore store(target.fields, target.whitespace, target.max_fields);
+  RecordStore store(target.fields, text, target.whitespace, target.max_fields);
   switch (mode) {
     case enums::StrategyMode::Delimited:
     case enums::StrategyMode::SpaceAligned:

@@ -11,9 +11,6 @@
 #include <new>
 #include <utility>
 
-#include <archive.h>
-#include <archive_entry.h>
-
 namespace textimport {
 namespace {
 
@@ -85,14 +82,16 @@ std::string archive_source::member_names::list() const {
 archive_source::archive_source(std::unique_ptr<byte_source> raw, std::string const& path,
                                std::string const& format, open_options const& options)
     : decompressing_source(std::move(raw), path, format, options),
-      handle_(archive_read_new(), archive_read_free),
+      library_(the_archive_library(path)),
+      handle_(library_.archive_read_new(), library_.archive_read_free),
       is_zip_(format == "zip"),
       is_member_named_(!options.member.empty()) {
   if (handle_ == nullptr) {
     throw std::bad_alloc();
   }
   set_up(format);
-  if (archive_read_open(handle_.get(), this, nullptr, deliver_block, nullptr) != ARCHIVE_OK) {
+  if (library_.archive_read_open(handle_.get(), this, nullptr, deliver_block, nullptr) !=
+      ARCHIVE_OK) {
     fail();
   }
   find_member(options.member);
@@ -101,27 +100,27 @@ archive_source::archive_source(std::unique_ptr<byte_source> raw, std::string con
 archive_source::~archive_source() = default;
 
 void archive_source::set_up(std::string const& format) {
-  struct format_support {
-    std::string_view name;
+  struct filter {
+    std::string_view format;
     int (*enable)(archive*);
   };
 
-  constexpr format_support filters[] = {
-      {"bzip2", archive_read_support_filter_bzip2},
-      {"xz", archive_read_support_filter_xz},
-      {"zstd", archive_read_support_filter_zstd},
-      {"lz4", archive_read_support_filter_lz4},
+  filter const filters[] = {
+      {"bzip2", library_.archive_read_support_filter_bzip2},
+      {"xz", library_.archive_read_support_filter_xz},
+      {"zstd", library_.archive_read_support_filter_zstd},
+      {"lz4", library_.archive_read_support_filter_lz4},
   };
-  for (format_support const& filter : filters) {
-    if (filter.name == format) {
-      filter.enable(handle_.get());
+  for (filter const& known : filters) {
+    if (known.format == format) {
+      known.enable(handle_.get());
     }
   }
   if (is_zip_) {
-    archive_read_support_format_zip_streamable(handle_.get());
+    library_.archive_read_support_format_zip_streamable(handle_.get());
   } else {
-    archive_read_support_format_raw(handle_.get());
-    archive_read_support_format_empty(handle_.get());  // raw alone refuses an empty text
+    library_.archive_read_support_format_raw(handle_.get());
+    library_.archive_read_support_format_empty(handle_.get());  // raw alone refuses an empty text
   }
 }
 
@@ -134,7 +133,7 @@ long archive_source::deliver_block(archive* const handle, void* const self,
     return static_cast<long>(bytes.size());
   } catch (...) {
     source.raw_failure_ = std::current_exception();
-    archive_set_error(handle, EIO, "the file could not be read");
+    source.library_.archive_set_error(handle, EIO, "the file could not be read");
     return ARCHIVE_FATAL;
   }
 }
@@ -144,17 +143,17 @@ bool archive_source::next_member(std::string& name) {
   utf8_names const names_are_utf8;
   archive_entry* entry = nullptr;
   do {
-    int const result = archive_read_next_header(handle_.get(), &entry);
+    int const result = library_.archive_read_next_header(handle_.get(), &entry);
     if (result == ARCHIVE_EOF) {
       return false;
     }
     if (result != ARCHIVE_OK && result != ARCHIVE_WARN) {
       fail();
     }
-    char const* const pathname = archive_entry_pathname(entry);
+    char const* const pathname = library_.archive_entry_pathname(entry);
     name = pathname == nullptr ? "" : pathname;
   } while (is_zip_ && !is_text_member(name));
-  if (archive_entry_is_data_encrypted(entry) != 0) {
+  if (library_.archive_entry_is_data_encrypted(entry) != 0) {
     throw error(import_error_kind::UnsupportedArchive,
                 "the member " + name + " of the archive is encrypted; unpack it first");
   }
@@ -185,7 +184,7 @@ void archive_source::find_member(std::string const& wanted) {
 /// without one, data that were packed twice through one more.
 void archive_source::expect_one_filter() const {
   constexpr std::uint64_t longest_header = 32;
-  int const filters = is_zip_ ? 2 : archive_filter_count(handle_.get());
+  int const filters = is_zip_ ? 2 : library_.archive_filter_count(handle_.get());
   if (filters > 2) {
     throw error(import_error_kind::NestedCompression,
                 "packed twice: inside the " + format() + " data lies " + format() +
@@ -230,7 +229,7 @@ void archive_source::read_next_data() {
   void const* block = nullptr;
   std::size_t length = 0;
   la_int64_t offset = 0;
-  int const result = archive_read_data_block(handle_.get(), &block, &length, &offset);
+  int const result = library_.archive_read_data_block(handle_.get(), &block, &length, &offset);
   if (result == ARCHIVE_EOF) {
     expect_no_further_member();
     return;
@@ -244,9 +243,9 @@ void archive_source::fail() const {
   if (raw_failure_) {
     std::rethrow_exception(raw_failure_);
   }
-  char const* const message = archive_error_string(handle_.get());
+  char const* const message = library_.archive_error_string(handle_.get());
   std::string const detail = message == nullptr ? "" : message;
-  if (archive_errno(handle_.get()) == ENOMEM) {
+  if (library_.archive_errno(handle_.get()) == ENOMEM) {
     throw std::bad_alloc();
   }
   if (says_any_of(detail, truncation_words)) {

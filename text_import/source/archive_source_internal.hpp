@@ -9,9 +9,8 @@
 #include <string_view>
 #include <vector>
 
+#include "text_import/source/archive_library_internal.hpp"
 #include "text_import/source/decompressing_source_internal.hpp"
-
-struct archive;
 
 namespace textimport {
 
@@ -53,6 +52,7 @@ class archive_source : public decompressing_source {
   // What libarchive calls for the next block of the file.
   static long deliver_block(archive* handle, void* self, void const** block);
 
+  archive_library const& library_;
   std::unique_ptr<archive, int (*)(archive*)> handle_;
   bool is_zip_;
   bool is_member_named_;

@@ -7,6 +7,7 @@
 
 #include "text_import/import_error.hpp"
 #include "text_import/source/decompression_internal.hpp"
+#include "text_import/source/unit_count_internal.hpp"
 
 namespace textimport {
 namespace {
@@ -80,10 +81,8 @@ constexpr format_mark format_marks[] = {
 /// True for the control characters that text hardly has: tab, line ends, page break and escape are
 /// none of them.
 bool is_control(char16_t const unit) {
-  if (unit >= 0x20) {
-    return unit == 0x7F;
-  }
-  return unit < 0x09 || (unit > 0x0D && unit != 0x1B);
+  bool const is_usual = (unit >= 0x09 && unit <= 0x0D) || unit == 0x1B;
+  return (unit < 0x20 && !is_usual) || unit == 0x7F;
 }
 
 bool has_control_bytes(std::string_view const bytes) {
@@ -148,14 +147,17 @@ void refuse_binary_format(std::string_view const head, std::string_view const co
 }
 
 void refuse_control_characters(std::u16string_view const text, std::string const& path) {
+  auto const is_odd = [](char16_t const unit, char16_t /*next*/) { return is_control(unit); };
+  if (count_units(text, is_odd) == 0) {
+    return;
+  }
   std::array<std::size_t, 0x80> counts{};
   for (char16_t const unit : text) {
     if (is_control(unit)) {
       ++counts[unit];
     }
   }
-  std::sort(counts.begin(), counts.end());
-  std::size_t const most_frequent = counts.back();
+  std::size_t const most_frequent = *std::max_element(counts.begin(), counts.end());
   std::size_t const others =
       std::accumulate(counts.begin(), counts.end(), std::size_t{0}) - most_frequent;
   constexpr std::size_t suspicious = 4;

@@ -20,12 +20,14 @@
 #include "text_format_detection/model/options.hpp"
 #include "text_import/import_error.hpp"
 #include "text_import/source/ascii_internal.hpp"
+#include "text_import/source/unit_count_internal.hpp"
 
 namespace textimport {
 namespace {
 
 constexpr char16_t replacement = 0xFFFD;
 constexpr std::size_t piece_bytes = 1024;
+constexpr std::size_t ascii_block_bytes = 256;  // fixed, since compilers vectorise such loops
 
 // A piece on its way through ICU, whose error handler finds it through its context.
 struct piece {
@@ -74,11 +76,14 @@ void on_bad_bytes(void const* const context, UConverterToUnicodeArgs* const argu
   ucnv_cbToUWriteUChars(arguments, &unit, 1, 0, status);
 }
 
-void append_ascii(std::string_view const bytes, std::u16string& text) {
-  std::size_t const start = text.size();
-  text.resize(start + bytes.size());
-  std::transform(bytes.begin(), bytes.end(), text.begin() + static_cast<std::ptrdiff_t>(start),
-                 [](char const byte) { return static_cast<char16_t>(byte); });
+void append_ascii(std::string_view bytes, std::u16string& text) {
+  std::array<char16_t, ascii_block_bytes> units;
+  for (; bytes.size() >= units.size(); bytes.remove_prefix(units.size())) {
+    std::copy_n(bytes.begin(), units.size(), units.begin());
+    text.append(units.data(), units.size());
+  }
+  std::copy(bytes.begin(), bytes.end(), units.begin());
+  text.append(units.data(), bytes.size());
 }
 
 }  // namespace
@@ -130,7 +135,7 @@ struct decoder::converter {
                       });
   }
 
-  [[nodiscard]] bool between_characters() const {
+  [[nodiscard]] bool is_between_characters() const {
     UErrorCode status = U_ZERO_ERROR;
     return ucnv_toUCountPending(handle.get(), &status) == 0;
   }
@@ -145,29 +150,40 @@ struct decoder::converter {
 
 decoder::decoder(std::string const& encoding, std::uint64_t const offset, bool const strict,
                  std::string path)
-    : converter_(std::make_unique<converter>(encoding)),
-      encoding_(encoding),
+    : encoding_(encoding),
       path_(std::move(path)),
       start_(offset),
       offset_(offset),
       strict_(strict),
-      ascii_is_itself_(converter_->maps_ascii_to_itself()) {}
+      ascii_is_itself_(encoding == "UTF-8" || opened_converter().maps_ascii_to_itself()) {}
 
 decoder::~decoder() = default;
 
+decoder::converter& decoder::opened_converter() {
+  if (!converter_) {
+    converter_ = std::make_unique<converter>(encoding_);
+  }
+  return *converter_;
+}
+
+bool decoder::is_between_characters() const {
+  return !converter_ || converter_->is_between_characters();
+}
+
 void decoder::decode(std::string_view bytes, bool const last, std::u16string& text) {
   while (!bytes.empty()) {
-    if (ascii_is_itself_ && converter_->between_characters()) {
+    if (ascii_is_itself_ && is_between_characters()) {
       std::size_t const run = ascii_run(bytes);
       append_ascii(bytes.substr(0, run), text);
       offset_ += run;
       bytes.remove_prefix(run);
     }
-    std::size_t const piece = std::min(bytes.size(), piece_bytes);
-    convert(bytes.substr(0, piece), false, text);
-    bytes.remove_prefix(piece);
+    if (std::size_t const piece = std::min(bytes.size(), piece_bytes); piece != 0) {
+      convert(bytes.substr(0, piece), false, text);
+      bytes.remove_prefix(piece);
+    }
   }
-  if (last) {
+  if (last && converter_) {
     convert({}, true, text);
   }
 }
@@ -175,7 +191,7 @@ void decoder::decode(std::string_view bytes, bool const last, std::u16string& te
 void decoder::convert(std::string_view const bytes, bool const last, std::u16string& text) {
   std::size_t const start = text.size();
   piece current{bytes, offset_, strict_};
-  bool const is_converted = converter_->convert(current, last, text);
+  bool const is_converted = opened_converter().convert(current, last, text);
   offset_ += bytes.size();
   replace_end_marks(text, start);
   counts_.bad_bytes += current.bad_bytes;
@@ -188,12 +204,12 @@ void decoder::convert(std::string_view const bytes, bool const last, std::u16str
 }
 
 void decoder::replace_end_marks(std::u16string& text, std::size_t const start) {
-  for (std::size_t i = start; i < text.size(); ++i) {
-    if (text[i] == textio::end_mark) {
-      text[i] = replacement;
-      ++counts_.replaced_end_marks;
-    }
+  std::size_t const found = count_unit(std::u16string_view(text).substr(start), textio::end_mark);
+  if (found != 0) {
+    std::replace(text.begin() + static_cast<std::ptrdiff_t>(start), text.end(), textio::end_mark,
+                 replacement);
   }
+  counts_.replaced_end_marks += found;
 }
 
 void decoder::note_bad_offset(std::uint64_t const offset) {

@@ -36,12 +36,14 @@ class decoder {
  private:
   struct converter;
 
+  converter& opened_converter();
+  [[nodiscard]] bool is_between_characters() const;
   void convert(std::string_view bytes, bool last, std::u16string& text);
   void note_bad_offset(std::uint64_t offset);
   void replace_end_marks(std::u16string& text, std::size_t start);
   [[noreturn]] void throw_bad_bytes() const;
 
-  std::unique_ptr<converter> converter_;
+  std::unique_ptr<converter> converter_;  // opened when it is needed
   std::string encoding_;
   std::string path_;
   std::uint64_t start_;

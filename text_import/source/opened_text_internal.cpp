@@ -10,6 +10,7 @@
 
 #include "text_import/source/binary_content_internal.hpp"
 #include "text_import/source/decompression_internal.hpp"
+#include "text_import/source/unit_count_internal.hpp"
 
 namespace textimport {
 namespace {
@@ -19,19 +20,6 @@ bool leaves_text_usable(import_error_kind const kind) {
   return kind == import_error_kind::DamagedCompression ||
          kind == import_error_kind::TruncatedCompression ||
          kind == import_error_kind::WrongChecksum;
-}
-
-/// Appends up to `capacity` bytes of `source` to `bytes` and returns how many; none when it throws.
-std::size_t append_bytes(byte_source& source, std::size_t const capacity, std::string& bytes) {
-  std::size_t const start = bytes.size();
-  bytes.resize(start + capacity);
-  try {
-    bytes.resize(start + source.read(bytes.data() + start, capacity));
-  } catch (...) {
-    bytes.resize(start);
-    throw;
-  }
-  return bytes.size() - start;
 }
 
 /// The length of `text` up to and with its last line ending, 0 without any. A CR at the very end
@@ -44,22 +32,13 @@ std::size_t whole_lines(std::u16string_view const text) {
   return text.substr(0, searched).find_last_of(u"\r\n") + 1;
 }
 
-void count_characters(std::u16string_view const text, text_findings& findings) {
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] > u'\r') {
-      continue;
-    }
-    if (text[i] == u'\0') {
-      ++findings.nuls;
-    } else if (text[i] == u'\n') {
-      ++findings.line_endings.lf;
-    } else if (text.substr(i, 2) == u"\r\n") {
-      ++findings.line_endings.crlf;
-      ++i;
-    } else if (text[i] == u'\r') {
-      ++findings.line_endings.cr;
-    }
-  }
+line_ending_counts count_line_endings(std::u16string_view const text) {
+  auto const is_crlf = [](char16_t const unit, char16_t const next) {
+    return unit == u'\r' && next == u'\n';
+  };
+  std::size_t const cr = count_unit(text, u'\r');
+  std::size_t const crlf = cr == 0 ? 0 : count_units(text, is_crlf);
+  return {count_unit(text, u'\n') - crlf, crlf, cr - crlf};
 }
 
 }  // namespace
@@ -79,18 +58,29 @@ opened_text::opened_text(std::unique_ptr<byte_source> raw, std::string path,
   note_unseen_members();
   decode_head(head);
   cut_sample();
-  count_characters(sample(), findings_);
+  findings_.line_endings = count_line_endings(sample());
+  findings_.nuls = count_unit(sample(), u'\0');
   undelivered_ = head_text_;
+}
+
+/// Reads up to `capacity` bytes, valid until the next call; none at the end.
+std::string_view opened_text::read_block(std::size_t const capacity) {
+  if (block_capacity_ < capacity) {
+    block_ = std::make_unique_for_overwrite<char[]>(capacity);
+    block_capacity_ = capacity;
+  }
+  std::size_t const length = bytes_->read(block_.get(), capacity);
+  at_end_ = length == 0;
+  return {block_.get(), length};
 }
 
 void opened_text::read_head(std::string& head) {
   try {
     while (head.size() < options_.sample_bytes && !at_end_) {
-      std::size_t const room = std::min(options_.block_bytes, options_.sample_bytes - head.size());
-      at_end_ = append_bytes(*bytes_, room, head) == 0;
+      head += read_block(std::min(options_.block_bytes, options_.sample_bytes - head.size()));
     }
     if (!at_end_) {
-      at_end_ = append_bytes(*bytes_, options_.block_bytes, ahead_) == 0;
+      ahead_ = read_block(options_.block_bytes);
     }
   } catch (import_error const& error) {
     note_failure(error, !head.empty());
@@ -158,10 +148,8 @@ std::size_t opened_text::deliver(char16_t* const room, std::size_t const capacit
 void opened_text::decode_next_block() {
   block_text_.clear();
   try {
-    if (ahead_.empty()) {
-      at_end_ = append_bytes(*bytes_, options_.block_bytes, ahead_) == 0;
-    }
-    std::string const block = std::exchange(ahead_, {});
+    std::string_view const block =
+        ahead_.empty() ? read_block(options_.block_bytes) : std::exchange(ahead_, {});
     decoder_->decode(block, at_end_, block_text_);
   } catch (...) {
     failure_ = std::current_exception();

@@ -36,6 +36,7 @@ class opened_text {
   std::size_t deliver(char16_t* room, std::size_t capacity);
 
  private:
+  std::string_view read_block(std::size_t capacity);
   void read_head(std::string& head);
   void note_failure(import_error const& error, bool after_text);
   void note_unseen_members();
@@ -50,7 +51,9 @@ class opened_text {
   std::optional<decoder> decoder_;
   std::u16string head_text_;  // the sample and the begun line behind it
   std::size_t sample_length_ = 0;
-  std::string ahead_;  // a block that was read, but not decoded yet
+  std::unique_ptr<char[]> block_;
+  std::size_t block_capacity_ = 0;
+  std::string_view ahead_;  // a block that was read, but not decoded yet
   std::u16string block_text_;
   std::u16string_view undelivered_;  // of head_text_, later of block_text_
   std::exception_ptr failure_;       // behind the text that was read
