@@ -27,7 +27,8 @@ TEST(UnitSearch, FindsEachUnitAtEachPosition) {
   for (std::u16string const& units : sets) {
     // What surrounds the unit looks like a line feed or an end mark in one of its bytes.
     std::u16string others = u"\u010A\u0A01\u8A0A\uFF0A\uFFFE\u00FF";
-    std::erase_if(others, [&](char16_t const other) { return units.find(other) != units.npos; });
+    std::erase_if(others,
+                  [&](char16_t const other) { return units.find(other) != std::u16string::npos; });
     for (char16_t const unit : units + u'\uFFFF') {
       for (std::size_t pos = 0; pos < longest; ++pos) {
         std::u16string text;
