@@ -12,18 +12,13 @@ namespace {
 
 TEST(UnitSearch, FindsEachUnitAtEachPosition) {
   constexpr std::size_t longest = 140;
-  // Nothing, units below 255, others, and more of them than are compared one by one.
-  std::vector<std::u16string> const sets{u"",
-                                         u"\n",
-                                         u"\n\u00FE",
-                                         u"\n,;",
-                                         u"\n,;|",
-                                         u"\u00FF",
-                                         u"\n\u0100",
-                                         u"\n\u0100,",
-                                         u"\n,;\u0100|",
-                                         u"\n,;|\t:#\"\uFFFE",
-                                         std::u16string(1, u'\0')};
+  // NUL, nothing, units below 255, others, and more of them than are compared one by one.
+  std::vector<std::u16string> sets(1, std::u16string(1, u'\0'));
+  for (char16_t const* const units :
+       {u"", u"\n", u"\n\u00FE", u"\n,;", u"\n,;|", u"\u00FF", u"\n\u0100", u"\n\u0100,",
+        u"\n,;\u0100|", u"\n,;|\t:#\"\uFFFE"}) {
+    sets.emplace_back(units);
+  }
   for (std::u16string const& units : sets) {
     // What surrounds the unit looks like a line feed or an end mark in one of its bytes.
     std::u16string others = u"\u010A\u0A01\u8A0A\uFF0A\uFFFE\u00FF";
