@@ -108,12 +108,7 @@ Work score(Shape const& shape, std::u16string_view const text) {
 
 /// The bounds of the fields of a sample, all records in one list.
 struct KnownBounds {
-  struct Bounds {
-    std::size_t start;
-    std::size_t end;
-  };
-
-  std::vector<Bounds> fields;
+  std::vector<FieldBounds> fields;
   std::vector<std::size_t> record_ends;
 };
 
@@ -132,13 +127,10 @@ std::shared_ptr<KnownBounds const> find_bounds(Shape const& shape, std::u16strin
 Work store(Shape const& shape, std::u16string_view const text) {
   return [bounds = find_bounds(shape, text), text] {
     FieldArray array;
-    std::size_t next = 0;
-    for (std::size_t const record_end : bounds->record_ends) {
-      for (; next < record_end; ++next) {
-        auto const [start, end] = bounds->fields[next];
-        array.add_field(text.data() + start, end - start);
-      }
-      array.end_record();
+    std::size_t start = 0;
+    for (std::size_t const end : bounds->record_ends) {
+      array.append_record(text.data(), std::span(bounds->fields).subspan(start, end - start));
+      start = end;
     }
     return array.fields().size();
   };

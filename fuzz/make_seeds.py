@@ -25,6 +25,12 @@ HOSTILE = {
     "end-mark": "a,b\n1,2\n\xff3,4\n",
     "types": "0x1F,0b11,1e5,NaN,12:30,1:02:03,2024-01-05,2024-01-05 10:00,x,,1+2i,$5,|\n" * 5,
 }
+TABLES = [
+    "title\n\nname|size\n----|----\n'a'|1\n'b|c'|2\nsum|3\n", "sep=;\nx;y\nm;s\n1,5;02\n2,5;03\n",
+    "# made by hand\n# a b c\n1 2 3\n4 5 6\n", "x||y\n1||2\n3||NA\n", "x\xa7y\n1\xa72\n3\xa74\n",
+    "name    code  sum\nAda     A1    1.5\nBob     B2   12.5\nChris   C3    3.5\n",
+    "day,n\n05.01.24,1.234\n31.01.24,\"1,2\"\n", "-- a -- b\n 1 2\n 3 4\n\n/* c */\n 5 6\n",
+]
 VALUES = """1 -1.5e10 .5 1,234.5 NaN -inf 1+2i 3.5j 0xFF 0b101 12:30 1:02:03 1:02:03:04 , | ; NaT $12
 2024-01-05 2024/1/5 5.1.2024 5-Jan-24 20240105T093005Z 9:30PM 12e 1.2.3 - + abc 0x 0b2 1:2:3""".split()
 VALUES += ["Friday, January 5 2024 09:30:05.125 PM +01:00", "Jan 5, 2024", "5 January 2024 9:30 UTC"]
@@ -96,9 +102,13 @@ def seeds():
         yield "pick_strategy", name, with_choices() + text
         yield "fixed_stream", name, with_choices(3) + text[:200]
         yield "record_scan", name, with_choices(i % 4) + text[:300]
+        yield "survey", name, with_choices() + text
     comments = (0, 0, 1, 2, 2, *b"/*", 2, *b"*/")  # the third of the options that are drawn
     yield "pick_strategy", "with-comments", with_choices(0, *comments) + b"/* a\n b */1,2\n3,4\n" * 9
     yield "record_scan", "with-comments", with_choices(0, 0, 0, 0, *comments) + b"/* a\n b */1,2\n3,4\n" * 9
+    for i, text in enumerate(TABLES):
+        yield "survey", f"table-{i}", with_choices() + text.encode("latin-1")
+        yield "survey", f"given-{i}", with_choices(0, 1 << i % 7, i % 4, 1 + i) + text.encode("latin-1")
     for mode, rules in enumerate((2, 1, 5, 6)):
         layout = (0, 0, 0, 0, 0, 0, 0, 1, 3, 3, 4, 5, 0, 0, 0, 0, 0, rules % 3, rules % 3, rules % 3, rules % 3, rules)
         yield "record_scan", f"rules-{rules}", with_choices(mode % 3, 0, 0, 0, *layout) + b",a,,b,\n12345678901\n\n12\n"

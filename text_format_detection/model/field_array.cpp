@@ -17,7 +17,7 @@ void FieldArray::reserve(std::size_t const num_records) {
 
 /// Room for as many fields a record as so far, in all the records for which there is room; but at
 /// least twice and at most four times the room there was, or what `num_fields` more take.
-void FieldArray::make_room(std::size_t const num_fields) {
+void FieldArray::reserve_record(std::size_t const num_fields) {
   std::size_t const needed = fields_.size() + num_fields;
   std::size_t const expected = needed / (num_records() + 1) * record_ends_.capacity();
   std::size_t const room = fields_.capacity();
@@ -26,10 +26,21 @@ void FieldArray::make_room(std::size_t const num_fields) {
 
 void FieldArray::append_record(std::span<Field const> const fields) {
   if (fields.size() > fields_.capacity() - fields_.size()) {
-    make_room(fields.size());
+    reserve_record(fields.size());
   }
   record_ends_.push_back(fields_.size() + fields.size());
   fields_.insert(fields_.end(), fields.begin(), fields.end());
+}
+
+void FieldArray::append_record(char16_t const* const text,
+                               std::span<FieldBounds const> const bounds) {
+  if (bounds.size() > fields_.capacity() - fields_.size()) {
+    reserve_record(bounds.size());
+  }
+  record_ends_.push_back(fields_.size() + bounds.size());
+  for (FieldBounds const& field : bounds) {
+    fields_.emplace_back(text + field.start, field.end - field.start);
+  }
 }
 
 void FieldArray::drop_open_fields(std::size_t const count) noexcept {

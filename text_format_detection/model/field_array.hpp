@@ -12,6 +12,16 @@
 
 namespace textio {
 
+namespace reading {
+class RecordStore;
+}
+
+/// Where a field lies in a text: from one position up to, not including, another.
+struct FieldBounds {
+  std::size_t start;
+  std::size_t end;
+};
+
 /// The fields of a sample, record after record.
 ///
 /// `record_ends` has one entry for each stored record: the number of fields stored up to and
@@ -27,7 +37,7 @@ class TFD_API FieldArray {
   FieldArray& operator=(FieldArray&&) noexcept = default;
   ~FieldArray();
 
-  /// Every field, in text order.
+  /// Every stored field, in text order.
   [[nodiscard]] std::vector<Field> const& fields() const noexcept { return fields_; }
 
   /// One running total for each stored record.
@@ -52,39 +62,40 @@ class TFD_API FieldArray {
     return std::span<Field const>(fields_).subspan(record_start(r), num_fields(r));
   }
 
-  /// Makes room for this many records of one field each. Throws std::bad_alloc.
-  void reserve(std::size_t num_records);
-
   /// Appends one record with these fields, or one without any. `fields` must not lie in this
   /// array. Throws std::bad_alloc, and changes nothing then.
   void append_record(std::span<Field const> fields);
   void append_empty_record();
 
-  /// Adds a field to an open record, which stands behind the others until end_record() makes it
-  /// one of them. Throws std::bad_alloc, and changes nothing then.
-  void add_field(char16_t const* const data, std::size_t const length) {
-    if (fields_.size() == fields_.capacity()) {
-      make_room(1);
-    }
-    fields_.emplace_back(data, length);
-  }
-
-  /// The fields of the open record.
-  [[nodiscard]] std::span<Field const> open_fields() const noexcept {
-    return std::span<Field const>(fields_).subspan(record_start(num_records()));
-  }
-
-  /// Drops the fields of the open record but the first `count`, of which there have to be as many.
-  void drop_open_fields(std::size_t count) noexcept;
-
-  /// Ends the open record. Throws std::bad_alloc; the record is open still then.
-  void end_record();
+  /// Appends one record whose fields lie in `text`. Throws std::bad_alloc, and changes nothing
+  /// then.
+  void append_record(char16_t const* text, std::span<FieldBounds const> bounds);
 
   /// Removes the records without fields that stand behind the last record with fields.
   void drop_trailing_empty_records() noexcept;
 
  private:
-  void make_room(std::size_t num_fields);
+  // Reading adds fields one by one to an open record, which stands behind the others until it is
+  // ended or its fields are dropped.
+  friend class reading::RecordStore;
+
+  TFD_LOCAL void reserve(std::size_t num_records);
+  void reserve_record(std::size_t num_fields);
+
+  void add_field(char16_t const* const data, std::size_t const length) {
+    if (fields_.size() == fields_.capacity()) {
+      reserve_record(1);
+    }
+    fields_.emplace_back(data, length);
+  }
+
+  [[nodiscard]] std::span<Field const> open_fields() const noexcept {
+    return std::span<Field const>(fields_).subspan(record_start(num_records()));
+  }
+
+  /// Keeps the first `count` fields, of which there have to be as many.
+  TFD_LOCAL void drop_open_fields(std::size_t count) noexcept;
+  TFD_LOCAL void end_record();
 
   std::vector<Field> fields_;
   std::vector<std::size_t> record_ends_;

@@ -20,6 +20,8 @@ namespace {
 
 constexpr std::size_t block_length = 64;
 
+using Pattern = std::array<char16_t, 8>;
+
 #ifdef TFD_SEARCH_WITH_SSE2
 
 __m128i load(char16_t const* const units) noexcept {
@@ -44,7 +46,7 @@ std::uint64_t compare_units(char16_t const* const units, CompareEight const& com
 }
 
 /// Says which of 64 units are end marks or among `Count` wanted ones.
-template <std::size_t Count, class Pattern>
+template <std::size_t Count>
 class BlockComparison {
  public:
   BlockComparison(Pattern const* const patterns, bool const in_bytes) : in_bytes_(in_bytes) {
@@ -104,7 +106,7 @@ std::uint64_t gather_bits(std::uint8_t const* const bytes) noexcept {
 }
 
 /// Says which of 64 units are end marks or among `Count` wanted ones.
-template <std::size_t Count, class Pattern>
+template <std::size_t Count>
 class BlockComparison {
  public:
   BlockComparison(Pattern const* const patterns, bool const in_bytes) {
@@ -163,13 +165,13 @@ std::size_t UnitSearch::find_anew(std::size_t const pos) noexcept {
   gap_start_ = pos;
   std::size_t const start = lies_in_block ? block_start_ + block_length : pos;
   if (num_units_ <= 1) {
-    search_from(start, BlockComparison<1, Pattern>(patterns_.data(), in_bytes_));
+    search_from(start, BlockComparison<1>(patterns_.data(), in_bytes_));
   } else if (num_units_ == 2) {
-    search_from(start, BlockComparison<2, Pattern>(patterns_.data(), in_bytes_));
+    search_from(start, BlockComparison<2>(patterns_.data(), in_bytes_));
   } else if (num_units_ == 3) {
-    search_from(start, BlockComparison<3, Pattern>(patterns_.data(), in_bytes_));
+    search_from(start, BlockComparison<3>(patterns_.data(), in_bytes_));
   } else if (num_units_ <= many) {
-    search_from(start, BlockComparison<many, Pattern>(patterns_.data(), in_bytes_));
+    search_from(start, BlockComparison<many>(patterns_.data(), in_bytes_));
   } else {
     search_from(start, [this](char16_t const* const units) { return look_up(units); });
   }

@@ -32,15 +32,11 @@ class UnitSearch {
 
  private:
   static constexpr std::size_t block_length = 64;
-  // Up to this many units are each compared with a whole block; where there are fewer, the first
-  // stands in the free places.
+  // Up to this many units are each compared with a whole block.
   static constexpr std::size_t many = 8;
-  static constexpr std::size_t pattern_length = 8;
 
   /// One bit for each code unit of a block, the lowest for the first.
   using Bits = std::uint64_t;
-  /// A wanted unit as often as it is compared at once: in each place, or in both of its bytes.
-  using Pattern = std::array<char16_t, pattern_length>;
 
   [[nodiscard]] std::size_t first_found() const noexcept {
     return block_start_ + static_cast<std::size_t>(std::countr_zero(found_));
@@ -59,8 +55,10 @@ class UnitSearch {
   std::size_t gap_start_ = unknown_count;
   UnitSet set_;
   std::size_t num_units_;
+  // Each unit eight times, to be compared with as many at once; where the text may be cut to bytes
+  // for that, in both bytes of each. The first unit stands in free places.
   bool in_bytes_;
-  alignas(16) std::array<Pattern, many> patterns_;
+  alignas(16) std::array<std::array<char16_t, 8>, many> patterns_;
 };
 
 }  // namespace textio::model

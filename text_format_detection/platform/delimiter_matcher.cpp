@@ -18,6 +18,7 @@ DelimiterMatcher::Mode make_mode(std::vector<std::u16string> const& strings) {
   }
   DelimiterMatcher::StringList list;
   list.strings.reserve(strings.size());
+  std::size_t num_lone_units = 0;
   for (std::u16string const& string : strings) {
     if (string.empty() || string.find(end_mark) != std::u16string::npos) {
       continue;
@@ -26,8 +27,9 @@ DelimiterMatcher::Mode make_mode(std::vector<std::u16string> const& strings) {
     char16_t const first_unit = string.front();
     if (list.first_units.find(first_unit) == std::u16string::npos) {
       list.first_units.push_back(first_unit);
-      if (string.size() == 1) {
-        list.lone_units.push_back(first_unit);
+      if (string.size() == 1 && num_lone_units < list.lone_units.size()) {
+        list.lone_units[num_lone_units] = first_unit;
+        ++num_lone_units;
       }
     }
     list.lowest_first_unit = std::min(list.lowest_first_unit, first_unit);
@@ -40,9 +42,6 @@ DelimiterMatcher::Mode make_mode(std::vector<std::u16string> const& strings) {
 
 std::size_t DelimiterMatcher::StringList::length_of_match(
     std::u16string_view const text) const noexcept {
-  if (lone_units.find(text.front()) != std::u16string::npos) {
-    return 1;
-  }
   if (first_units.find(text.front()) == std::u16string::npos) {
     return 0;
   }

@@ -5,6 +5,7 @@
 // compared as a unit, any other list string by string.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <memory>
 #include <string>
@@ -36,16 +37,19 @@ class TFD_API DelimiterMatcher {
   struct StringList {
     std::vector<std::u16string> strings;  ///< in list order
     std::u16string first_units;           ///< the first code unit of each string, once
-    std::u16string lone_units;            ///< those of them at which a string of that unit matches
     char16_t lowest_first_unit = 0xFFFF;  ///< no string begins with a code unit below this one
     char16_t highest_first_unit = 0;      ///< nor with one above this
+    /// Up to two units at which a string of that unit alone matches, the most common match.
+    std::array<char16_t, 2> lone_units{0xFFFF, 0xFFFF};
 
     /// The length of the first string of the list that stands at `pos` in full, else 0.
     [[nodiscard]] std::size_t length_at(std::u16string_view const text,
                                         std::size_t const pos) const noexcept {
-      bool const may_match =
-          pos < text.size() && text[pos] <= highest_first_unit && text[pos] >= lowest_first_unit;
-      return may_match ? length_of_match(text.substr(pos)) : 0;
+      if (pos >= text.size() || text[pos] > highest_first_unit || text[pos] < lowest_first_unit) {
+        return 0;
+      }
+      bool const is_lone = text[pos] == lone_units[0] || text[pos] == lone_units[1];
+      return is_lone ? 1 : length_of_match(text.substr(pos));
     }
 
     /// The length of the first string of the list that the text (not empty) begins with, else 0.

@@ -24,7 +24,10 @@ void RecordStore::keep() {
   std::span<Field const> const fields = array_.open_fields();
   bool const is_blank =
       fields.size() == 1 && model::consists_of(fields.front().view(), whitespace_);
-  array_.drop_open_fields(is_blank ? 0 : std::min(fields.size(), max_fields_));
+  std::size_t const num_kept = is_blank ? 0 : std::min(fields.size(), max_fields_);
+  if (num_kept < fields.size()) {
+    array_.drop_open_fields(num_kept);
+  }
   array_.end_record();
 }
 

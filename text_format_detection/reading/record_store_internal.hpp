@@ -40,6 +40,9 @@ class RecordStore {
   bool ends_text = false;
   Status status = Status::Whole;
 
+  /// Makes room for this many records.
+  void expect(std::size_t const num_records) { array_.reserve(num_records); }
+
   /// Starts a new record at `start`.
   void begin(std::size_t const start) noexcept {
     start_ = start;

@@ -30,7 +30,8 @@ void fill_fields(SamplingContext& ctx, GenericStrategy const& strategy) {
                           .lines = unknown_count,
                           .sampling = true};
   read_with_mode(strategy.options(), strategy.mode(), ctx.sample->view(), limits,
-                 {*ctx.fields, *ctx.whitespace, ctx.max_fields});
+                 {*ctx.fields, *ctx.whitespace, ctx.max_fields, ctx.num_records_before});
+  ctx.num_records_before = ctx.fields->num_records();
 }
 
 }  // namespace
@@ -45,9 +46,7 @@ void sample_strategy(SamplingContext& ctx, std::shared_ptr<GenericStrategy> cons
     return;
   }
   set_field_limit(ctx, *strategy);
-  ctx.fields->reserve(ctx.num_records_before);
   fill_fields(ctx, *strategy);
-  ctx.num_records_before = ctx.fields->num_records();
   strategy->field_array(std::move(ctx.fields));
   ctx.limit_fields = false;
   ctx.max_fields = unknown_count;
@@ -60,6 +59,7 @@ ReadSummary read_with_mode(parser::options const& options, enums::StrategyMode c
                            std::u16string_view const text, ReadLimits const& limits,
                            ReadTarget const& target) {
   RecordStore store(target.fields, text, target.whitespace, target.max_fields);
+  store.expect(target.expected_records);
   switch (mode) {
     case enums::StrategyMode::Delimited:
     case enums::StrategyMode::SpaceAligned:

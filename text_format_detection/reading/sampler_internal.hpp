@@ -22,11 +22,12 @@ void sample_strategy(SamplingContext& ctx, std::shared_ptr<GenericStrategy> cons
                      bool valuate);
 
 /// Where records go. A record keeps `max_fields` fields, and is stored as an empty one if its only
-/// field is `whitespace`.
+/// field is `whitespace`. There is room for `expected_records` at once.
 struct ReadTarget {
   FieldArray& fields;
   std::u16string_view whitespace;
   std::size_t max_fields;
+  std::size_t expected_records = 0;
 };
 
 /// Reads `text` with the reader for `mode`; nothing for an unknown mode.
