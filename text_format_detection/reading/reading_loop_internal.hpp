@@ -166,16 +166,16 @@ class ReadingLoop {
       return;
     }
     switch (options_.empty_lines) {
-      case enums::EmptyLineRule::Skip:
-        store_.drop();
-        break;
       case enums::EmptyLineRule::Read:
         store_.keep();
         num_counted_ += limits_.sampling ? 0U : 1U;
-        break;
+        return;
       case enums::EmptyLineRule::Error:
         throw parser::exception::empty_line_rule(num_counted_, 0, {}, {});
+      case enums::EmptyLineRule::Skip:
+        break;
     }
+    store_.drop();
   }
 
   parser::options const& options_;
