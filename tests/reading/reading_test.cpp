@@ -100,6 +100,9 @@ TEST(ReadRecords, SaysHowFarItGot) {
     EXPECT_EQ(show(fields), row.cells.at(1));
     EXPECT_EQ(show({summary.units_consumed, summary.lines_scanned, summary.records_stored}),
               row.cells.at(2));
+    auto const again =
+        textio::read_records(rules, how.mode, Field(text), how.records, how.lines, fields);
+    EXPECT_EQ(again.records_stored, summary.records_stored) << "behind records that are there";
   });
 }
 
