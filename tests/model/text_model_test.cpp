@@ -73,7 +73,8 @@ TEST(TextModel, FieldArray) {
   fields.append_empty_record();
   fields.append_record(u"ab,,c", std::vector<textio::FieldBounds>{{0, 2}, {3, 3}, {4, 5}});
   fields.append_record(std::vector<Field>{Field(u"d"), Field(u"e")});
-  EXPECT_EQ(show(fields), "() / ab||c / d|e");
+  fields.append_record(u"f", std::vector<textio::FieldBounds>{{0, 1}});  // there is room
+  EXPECT_EQ(show(fields), "() / ab||c / d|e / f");
   EXPECT_EQ(fields.record_start(2), 3U);
 }
 
