@@ -13,7 +13,6 @@ namespace cli {
 namespace {
 
 using textimport::survey_findings;
-using textimport::table_layout;
 using textimport::value_type;
 using textio::enums::ColumnType;
 using textio::enums::StrategyMode;
