@@ -48,12 +48,12 @@ double median_time(std::size_t const runs, Work work) {
 
 void measure(std::string const& path, std::size_t const runs) {
   try {
-    auto const text = textimport::text_source::open(path);
+    auto const text = textimport::TextSource::open(path);
     double const in_memory = median_time(runs, [&] { return pick(text.sample()); });
     double const from_file =
-        median_time(runs, [&] { return pick(textimport::text_source::open(path).sample()); });
+        median_time(runs, [&] { return pick(textimport::TextSource::open(path).sample()); });
     std::printf("%s\t%.6f\t%.6f\n", path.c_str(), in_memory, from_file);
-  } catch (textimport::import_error const&) {
+  } catch (textimport::ImportError const&) {
     std::printf("%s\terror\terror\n", path.c_str());
   }
 }

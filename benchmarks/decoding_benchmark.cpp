@@ -59,8 +59,8 @@ std::string utf16(std::u16string_view const text) {
   return bytes;
 }
 
-textimport::text_source open_memory(std::string const& bytes) {
-  return textimport::text_source::open(textimport::memory_bytes(bytes), "memory");
+textimport::TextSource open_memory(std::string const& bytes) {
+  return textimport::TextSource::open(textimport::memory_bytes(bytes), "memory");
 }
 
 Prepare open_from_memory(Encode const encode) {
@@ -112,7 +112,7 @@ class TemporaryFile {
 
 Work open_from_file(Shape const& /*shape*/, std::u16string_view const text) {
   auto const file = std::make_shared<TemporaryFile const>(one_byte_each(text));
-  return [file] { return textimport::text_source::open(file->path()).sample().length(); };
+  return [file] { return textimport::TextSource::open(file->path()).sample().length(); };
 }
 
 }  // namespace

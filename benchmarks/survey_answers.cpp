@@ -25,15 +25,15 @@ namespace {
 
 using nlohmann::ordered_json;
 
-char const* layout_word(textimport::table_layout const layout) {
+char const* layout_word(textimport::Layout const layout) {
   switch (layout) {
-    case textimport::table_layout::Delimited:
+    case textimport::Layout::Delimited:
       return "delimited";
-    case textimport::table_layout::SpaceAligned:
+    case textimport::Layout::SpaceAligned:
       return "space";
-    case textimport::table_layout::FixedWidth:
+    case textimport::Layout::FixedWidth:
       return "fixed";
-    case textimport::table_layout::Lines:
+    case textimport::Layout::Lines:
       break;
   }
   return "line";
@@ -57,8 +57,8 @@ std::string to_utf8(std::u16string const& text) {
 }
 
 ordered_json survey_file(std::string const& path) {
-  auto const text = textimport::text_source::open(path);
-  textimport::survey_options options;
+  auto const text = textimport::TextSource::open(path);
+  textimport::SurveyOptions options;
   options.goes_on = text.findings().goes_on;
   options.encoding = text.findings().encoding.name;
   auto const found = textimport::survey_text(text.sample(), options);
@@ -80,7 +80,7 @@ ordered_json answer(std::string const& path, std::size_t const runs) {
       object.update(survey_file(path));
       seconds.push_back(std::chrono::duration<double>(Clock::now() - start).count());
     }
-  } catch (textimport::import_error const& error) {
+  } catch (textimport::ImportError const& error) {
     object.update({{"layout", "none"}, {"decided", false}, {"message", error.message()}});
     return object;
   }

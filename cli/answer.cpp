@@ -17,7 +17,7 @@ namespace {
 
 /// The sample of an opened text. Where the user says what ends a record, a text that goes on is
 /// cut behind the last of these ends instead.
-std::u16string_view sample_of(textimport::text_source const& text, Settings const& settings) {
+std::u16string_view sample_of(textimport::TextSource const& text, Settings const& settings) {
   std::u16string_view const sample = text.sample().view();
   if (!text.findings().goes_on || !settings.is_given(Option::LineEnding)) {
     return sample;
@@ -43,7 +43,7 @@ void take_library_answer(Answer& answer) {
 }  // namespace
 
 Answer find_answer(std::string const& path, Settings const& settings) {
-  auto text = textimport::text_source::open(path, settings.opening);
+  auto text = textimport::TextSource::open(path, settings.opening);
   std::u16string_view const sample = sample_of(text, settings);
   Answer answer{.path = path, .text = std::move(text), .sample = sample};
   if (settings.library_only || settings.shows_library) {

@@ -27,7 +27,7 @@ struct Violation {
 
 struct Answer {
   std::string path;  ///< as it was typed, "-" for standard input
-  textimport::text_source text;
+  textimport::TextSource text;
   std::u16string_view sample;  ///< what was looked at, kept alive by `text`
 
   std::shared_ptr<textio::GenericStrategy> strategy;  ///< sampled and scored
@@ -40,7 +40,7 @@ struct Answer {
   std::size_t data_end = 0;
 
   /// What the answer comes from, unless the library alone is asked.
-  std::optional<textimport::survey_findings> survey;
+  std::optional<textimport::SurveyFindings> survey;
   /// What the library says by itself; where it is shown.
   std::optional<LibraryAnswer> library;
   std::optional<Violation> violation;
@@ -51,7 +51,7 @@ struct Answer {
 };
 
 /// Opens the file and finds out how it is laid out, as far as the settings leave that open.
-/// Throws textimport::import_error.
+/// Throws textimport::ImportError.
 [[nodiscard]] Answer find_answer(std::string const& path, Settings const& settings);
 
 /// The number of data records and header lines that were sampled.

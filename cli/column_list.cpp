@@ -21,9 +21,9 @@ namespace cli {
 
 namespace {
 
-using textimport::column_extent;
-using textimport::column_findings;
-using textimport::date_order;
+using textimport::ColumnExtent;
+using textimport::ColumnFindings;
+using textimport::DateOrder;
 
 /// Neighbouring columns that are told in one line.
 struct ColumnRun {
@@ -31,19 +31,19 @@ struct ColumnRun {
   std::size_t last = 0;  ///< included
   std::string type;
   std::u16string last_name;
-  column_findings findings;  ///< of all of them together
+  ColumnFindings findings;  ///< of all of them together
 };
 
 bool are_alike(ColumnRun const& a, ColumnRun const& b) {
-  auto const key = [](column_findings const& c) {
+  auto const key = [](ColumnFindings const& c) {
     return std::tuple(c.decimal_mark, c.thousands_mark, c.order, c.leading_zeros, c.quoted);
   };
   return a.type == b.type && key(a.findings) == key(b.findings);
 }
 
 void join(ColumnRun& run, ColumnRun const& next) {
-  column_findings& all = run.findings;
-  column_findings const& more = next.findings;
+  ColumnFindings& all = run.findings;
+  ColumnFindings const& more = next.findings;
   run.last = next.last;
   run.last_name = next.last_name;
   all.values += more.values;
@@ -55,8 +55,8 @@ void join(ColumnRun& run, ColumnRun const& next) {
       all.missing_words.push_back(word);
     }
   }
-  auto const extend = [](std::optional<column_extent>& extent,
-                         std::optional<column_extent> const& further) {
+  auto const extend = [](std::optional<ColumnExtent>& extent,
+                         std::optional<ColumnExtent> const& further) {
     if (extent && further) {
       extent->end = further->end;
     } else {
@@ -97,16 +97,16 @@ std::string missing_text(std::vector<std::u16string> const& words) {
   return fmt::format("missing: {}{}", fmt::join(shown, " "), and_more(words.size() - shown.size()));
 }
 
-std::string_view order_text(date_order const order) {
+std::string_view order_text(DateOrder const order) {
   switch (order) {
-    case date_order::DayFirst:
+    case DateOrder::DayFirst:
       return "day first";
-    case date_order::MonthFirst:
+    case DateOrder::MonthFirst:
       return "month first";
-    case date_order::Ambiguous:
+    case DateOrder::Ambiguous:
       return "day or month first, no value tells";
-    case date_order::None:
-    case date_order::YearFirst:
+    case DateOrder::None:
+    case DateOrder::YearFirst:
       break;
   }
   return "";
@@ -114,7 +114,7 @@ std::string_view order_text(date_order const order) {
 
 /// What is not as usual about a column.
 std::string remarks(ColumnRun const& run) {
-  column_findings const& column = run.findings;
+  ColumnFindings const& column = run.findings;
   std::vector<std::string> texts;
   if (column.leading_zeros) {
     texts.emplace_back("text for its leading zeros");
@@ -128,7 +128,7 @@ std::string remarks(ColumnRun const& run) {
   if (auto const order = order_text(column.order); !order.empty()) {
     texts.emplace_back(order);
   }
-  if (column.quoted && column.type != textimport::value_type::Text) {
+  if (column.quoted && column.type != textimport::ValueType::Text) {
     texts.emplace_back("in quotes");
   }
   if (column.fitting < column.values) {
@@ -149,7 +149,7 @@ std::string range_text(std::size_t const first, std::size_t const last) {
   return first == last ? fmt::format("{}", first) : fmt::format("{}-{}", first, last);
 }
 
-std::string extent_text(std::optional<column_extent> const& extent) {
+std::string extent_text(std::optional<ColumnExtent> const& extent) {
   return extent ? range_text(extent->begin + 1, extent->end) : "vary";
 }
 

@@ -30,7 +30,7 @@ int answer_file(std::string const& path, Settings const& settings, Renderer cons
       return exit_code::failed;
     }
     return answer.decided ? exit_code::decided : exit_code::undecided;
-  } catch (textimport::import_error const& error) {
+  } catch (textimport::ImportError const& error) {
     write_message(display_bytes(error.what()).utf8);
     if (settings.json) {
       write_output(json_line(error_object(path, error)));
@@ -49,7 +49,7 @@ int answer_files(Arguments const& arguments, Settings const& settings, Renderer 
     while (auto const path = names.next()) {
       code = std::max(code, answer_file(*path, settings, render, first));
     }
-  } catch (textimport::import_error const& error) {  // the list itself
+  } catch (textimport::ImportError const& error) {  // the list itself
     write_message(display_bytes(error.what()).utf8);
     code = exit_code::failed;
   } catch (closed_pipe const&) {

@@ -10,7 +10,7 @@
 #include <string>
 
 #include "cli/arguments.hpp"
-#include "text_import/source/byte_source.hpp"
+#include "text_import/source/bytes/byte_source.hpp"
 
 namespace cli {
 
@@ -19,10 +19,10 @@ namespace cli {
 class FileNames {
  public:
   /// The operands; the names in the list of --files0-from; or standard input when there is
-  /// neither. Throws import_error when the list cannot be opened.
+  /// neither. Throws ImportError when the list cannot be opened.
   explicit FileNames(Arguments const& arguments);
 
-  /// The next name, or nothing. Throws import_error when the list cannot be read on, and
+  /// The next name, or nothing. Throws ImportError when the list cannot be read on, and
   /// usage_error for an empty name, or for standard input while it is the list.
   [[nodiscard]] std::optional<std::string> next();
 
@@ -30,7 +30,7 @@ class FileNames {
   void check(std::string const& name) const;
 
   std::deque<std::string> names_;
-  std::unique_ptr<textimport::byte_source> list_;
+  std::unique_ptr<textimport::ByteSource> list_;
   std::string list_path_;
   std::string rest_;  // the start of a name whose end is not read yet
 };

@@ -108,7 +108,7 @@ ordered_json answer_object(Answer const& answer, Settings const& settings) {
   return object;
 }
 
-ordered_json error_object(std::string const& path, textimport::import_error const& error) {
+ordered_json error_object(std::string const& path, textimport::ImportError const& error) {
   ordered_json object{{"schema", json_schema}};
   add_path(object, path);
   object["decided"] = false;

@@ -22,7 +22,7 @@ inline constexpr int json_schema = 1;
 
 /// A file that could not be read.
 [[nodiscard]] nlohmann::ordered_json error_object(std::string const& path,
-                                                  textimport::import_error const& error);
+                                                  textimport::ImportError const& error);
 
 /// How one strategy reads a text: layout, delimiters, column_widths.
 void add_reading(nlohmann::ordered_json& object, textio::GenericStrategy const& strategy);

@@ -18,7 +18,7 @@
 namespace cli {
 
 struct Settings {
-  textimport::open_options opening;
+  textimport::OpenOptions opening;
   textio::parser::options parsing;
   ostrel::io::text::typedetection::TypeAnalyzerOptions types;
   /// The layout that is given, if any; delimiters and widths stand in `parsing`.

@@ -12,14 +12,14 @@ namespace cli {
 
 namespace {
 
-using textimport::survey_findings;
-using textimport::value_type;
+using textimport::SurveyFindings;
+using textimport::ValueType;
 using textio::enums::ColumnType;
 using textio::enums::StrategyMode;
 
-textimport::survey_options survey_options_of(Answer const& answer, Settings const& settings) {
+textimport::SurveyOptions survey_options_of(Answer const& answer, Settings const& settings) {
   auto const& findings = answer.text.findings();
-  textimport::survey_options options;
+  textimport::SurveyOptions options;
   options.parsing = settings.parsing;
   options.types = settings.types;
   options.given.delimiter = settings.is_given(Option::Delimiter);
@@ -38,32 +38,32 @@ textimport::survey_options survey_options_of(Answer const& answer, Settings cons
   return options;
 }
 
-ColumnType type_of(value_type const type) {
+ColumnType type_of(ValueType const type) {
   switch (type) {
-    case value_type::Integer:
-    case value_type::Real:
-    case value_type::ComplexNumber:
+    case ValueType::Integer:
+    case ValueType::Real:
+    case ValueType::ComplexNumber:
       return ColumnType::Number;
-    case value_type::Date:
+    case ValueType::Date:
       return ColumnType::Date;
-    case value_type::DateTime:
+    case ValueType::DateTime:
       return ColumnType::DateTime;
-    case value_type::Duration:
+    case ValueType::Duration:
       return ColumnType::Duration;
-    case value_type::Hexadecimal:
+    case ValueType::Hexadecimal:
       return ColumnType::Hexadecimal;
-    case value_type::Binary:
+    case ValueType::Binary:
       return ColumnType::Binary;
-    case value_type::Empty:
+    case ValueType::Empty:
       return ColumnType::Undecided;
-    case value_type::Boolean:
-    case value_type::Text:
+    case ValueType::Boolean:
+    case ValueType::Text:
       break;
   }
   return ColumnType::Text;
 }
 
-std::vector<ColumnType> types_of(survey_findings const& findings, Settings const& settings) {
+std::vector<ColumnType> types_of(SurveyFindings const& findings, Settings const& settings) {
   std::vector<ColumnType> types;
   auto const& codes = findings.strategy->column_types();
   if (types_are_bound(settings) && codes.size() == findings.columns.size()) {
@@ -97,7 +97,7 @@ void doubt_single_column(Answer& answer, Settings const& settings) {
 }
 
 Verdict verdict_of(Answer const& answer, Settings const& settings) {
-  survey_findings const& findings = *answer.survey;
+  SurveyFindings const& findings = *answer.survey;
   if (implied_layout(settings) && !splits_are_open(settings)) {
     return Verdict::Given;
   }
@@ -115,7 +115,7 @@ Verdict verdict_of(Answer const& answer, Settings const& settings) {
 
 /// Where the data begin and end, from the numbers of their lines.
 void place_data(Answer& answer, Settings const& settings) {
-  survey_findings const& findings = *answer.survey;
+  SurveyFindings const& findings = *answer.survey;
   std::size_t const last = findings.data_ends_at.value_or(findings.data_starts_at);
   auto const lines = physical_lines(answer.sample, settings, last + 1);
   auto const begin_of = [&](std::size_t const line) {
@@ -136,7 +136,7 @@ bool types_are_bound(Settings const& settings) {
 void take_survey(Answer& answer, Settings const& settings) {
   textio::Field const sample(answer.sample);
   answer.survey = textimport::survey_text(sample, survey_options_of(answer, settings));
-  survey_findings const& findings = *answer.survey;
+  SurveyFindings const& findings = *answer.survey;
   answer.strategy = findings.strategy;
   answer.strategy->valuation();
   if (answer.strategy->field_array()->num_records() > 0) {

@@ -13,10 +13,10 @@ namespace cli {
 namespace {
 
 using nlohmann::ordered_json;
-using textimport::column_findings;
-using textimport::survey_candidate;
-using textimport::survey_findings;
-using textimport::table_layout;
+using textimport::ColumnFindings;
+using textimport::SurveyCandidate;
+using textimport::SurveyFindings;
+using textimport::Layout;
 
 ordered_json mark(char16_t const c) {
   return c == 0 || c == textio::end_mark ? ordered_json()
@@ -36,11 +36,11 @@ ordered_json texts(std::vector<std::u16string> const& list) {
   return array;
 }
 
-ordered_json extent(std::optional<textimport::column_extent> const& place) {
+ordered_json extent(std::optional<textimport::ColumnExtent> const& place) {
   return place ? ordered_json{{"begin", place->begin}, {"end", place->end}} : ordered_json();
 }
 
-ordered_json column_object(column_findings const& column) {
+ordered_json column_object(ColumnFindings const& column) {
   return {{"name", to_utf8(column.name)},
           {"type", textimport::name_of(column.type)},
           {"values", column.values},
@@ -57,23 +57,23 @@ ordered_json column_object(column_findings const& column) {
           {"bytes", extent(column.bytes)}};
 }
 
-ordered_json delimiter(survey_candidate const& candidate) {
-  return candidate.layout == table_layout::Delimited ? ordered_json(to_utf8(candidate.delimiter))
+ordered_json delimiter(SurveyCandidate const& candidate) {
+  return candidate.layout == Layout::Delimited ? ordered_json(to_utf8(candidate.delimiter))
                                                      : ordered_json();
 }
 
-ordered_json runner_up_object(survey_findings const& findings) {
+ordered_json runner_up_object(SurveyFindings const& findings) {
   if (!findings.runner_up) {
     return nullptr;
   }
-  survey_candidate const& candidate = findings.candidates[*findings.runner_up];
+  SurveyCandidate const& candidate = findings.candidates[*findings.runner_up];
   return {{"layout", textimport::name_of(candidate.layout)},
           {"delimiter", delimiter(candidate)},
           {"num_columns", candidate.num_columns},
           {"confidence", findings.runner_up_confidence}};
 }
 
-ordered_json candidate_object(survey_candidate const& candidate) {
+ordered_json candidate_object(SurveyCandidate const& candidate) {
   ordered_json object{{"hypothesis", candidate.hypothesis},
                       {"layout", textimport::name_of(candidate.layout)},
                       {"delimiter", delimiter(candidate)},
@@ -92,7 +92,7 @@ ordered_json candidate_object(survey_candidate const& candidate) {
 }  // namespace
 
 void add_survey(ordered_json& object, Answer const& answer) {
-  survey_findings const& findings = *answer.survey;
+  SurveyFindings const& findings = *answer.survey;
   object["confidence"] = findings.confidence;
   object["runner_up"] = runner_up_object(findings);
   object["data_starts_at"] = findings.data_starts_at;
@@ -101,11 +101,11 @@ void add_survey(ordered_json& object, Answer const& answer) {
   object["names"] = ordered_json::array();
   object["lines"] = ordered_json::array();
   object["columns"] = ordered_json::array();
-  for (textimport::noted_line const& line : findings.lines) {
+  for (textimport::NotedLine const& line : findings.lines) {
     object["lines"].push_back({{"line", line.line}, {"role", textimport::name_of(line.role)}});
   }
   if (!answer.column_types.empty()) {
-    for (column_findings const& column : findings.columns) {
+    for (ColumnFindings const& column : findings.columns) {
       object["columns"].push_back(column_object(column));
       if (findings.has_names) {
         object["names"].push_back(to_utf8(column.name));
@@ -117,9 +117,9 @@ void add_survey(ordered_json& object, Answer const& answer) {
   object["decimal_mark"] = mark(findings.decimal_mark);
 }
 
-void add_weighing(ordered_json& object, survey_findings const& findings) {
+void add_weighing(ordered_json& object, SurveyFindings const& findings) {
   object["candidates"] = ordered_json::array();
-  for (survey_candidate const& candidate : findings.candidates) {
+  for (SurveyCandidate const& candidate : findings.candidates) {
     object["candidates"].push_back(candidate_object(candidate));
   }
   object["survey"] = {{"reason", findings.reason},

@@ -14,6 +14,6 @@ namespace cli {
 void add_survey(nlohmann::ordered_json& object, Answer const& answer);
 
 /// The members that `explain` has in addition: every reading that was weighed, and the outcome.
-void add_weighing(nlohmann::ordered_json& object, textimport::survey_findings const& findings);
+void add_weighing(nlohmann::ordered_json& object, textimport::SurveyFindings const& findings);
 
 }  // namespace cli

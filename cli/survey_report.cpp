@@ -19,16 +19,16 @@ namespace cli {
 
 namespace {
 
-using textimport::noted_line;
-using textimport::survey_candidate;
-using textimport::survey_findings;
+using textimport::NotedLine;
+using textimport::SurveyCandidate;
+using textimport::SurveyFindings;
 
 std::string in_quotes(std::u16string_view const text) {
   return fmt::format("\"{}\"", display_text(text).utf8);
 }
 
 /// The marks that are not the usual ones.
-void add_marks(FactLines& lines, survey_findings const& findings, Settings const& settings) {
+void add_marks(FactLines& lines, SurveyFindings const& findings, Settings const& settings) {
   if (findings.quote != u'"') {
     std::string const quote = findings.quote == 0
                                   ? "none; quotation marks belong to the values"
@@ -50,7 +50,7 @@ void add_marks(FactLines& lines, survey_findings const& findings, Settings const
 
 /// Where the data stand, in lines counted from 1.
 std::string data_text(Answer const& answer, Settings const& settings) {
-  survey_findings const& findings = *answer.survey;
+  SurveyFindings const& findings = *answer.survey;
   std::string_view const given = settings.parsing.detect_header_lines ? "" : "; the first is given";
   if (answer.data().empty()) {
     return fmt::format("none{}", given);
@@ -67,7 +67,7 @@ std::string data_text(Answer const& answer, Settings const& settings) {
 /// Lines that hold no data, each with its number, its role and its text. In the middle of a long
 /// list some are left out.
 void add_noted_lines(FactLines& lines, std::string_view const where,
-                     std::span<noted_line const> const noted,
+                     std::span<NotedLine const> const noted,
                      std::vector<std::u16string_view> const& texts, std::size_t const first) {
   constexpr std::size_t most = 12;
   constexpr std::size_t most_at_top = 6;
@@ -91,10 +91,10 @@ void add_noted_lines(FactLines& lines, std::string_view const where,
   }
 }
 
-void add_surroundings(FactLines& lines, survey_findings const& findings, Preview const& preview) {
-  std::span<noted_line const> const all(findings.lines);
+void add_surroundings(FactLines& lines, SurveyFindings const& findings, Preview const& preview) {
+  std::span<NotedLine const> const all(findings.lines);
   auto const below = std::ranges::find_if(
-      all, [&](noted_line const& noted) { return noted.line >= findings.data_starts_at; });
+      all, [&](NotedLine const& noted) { return noted.line >= findings.data_starts_at; });
   auto const above = static_cast<std::size_t>(below - all.begin());
   add_noted_lines(lines, "above", all.first(above), preview.header_lines, 0);
   add_noted_lines(lines, "below", all.subspan(above), preview.footer_lines,
@@ -102,22 +102,22 @@ void add_surroundings(FactLines& lines, survey_findings const& findings, Preview
 }
 
 /// The best first, each way to split the lines once.
-std::vector<survey_candidate const*> ranked(survey_findings const& findings) {
-  std::vector<survey_candidate const*> rest;
-  for (survey_candidate const& candidate : findings.candidates) {
+std::vector<SurveyCandidate const*> ranked(SurveyFindings const& findings) {
+  std::vector<SurveyCandidate const*> rest;
+  for (SurveyCandidate const& candidate : findings.candidates) {
     rest.push_back(&candidate);
   }
-  std::ranges::stable_sort(rest, std::ranges::greater{}, [](survey_candidate const* const c) {
+  std::ranges::stable_sort(rest, std::ranges::greater{}, [](SurveyCandidate const* const c) {
     return c->coverage * c->soundness;
   });
-  std::vector<survey_candidate const*> best;
+  std::vector<SurveyCandidate const*> best;
   for (auto const& place : {findings.winner, findings.runner_up}) {
     if (place) {
       best.push_back(&findings.candidates[*place]);
     }
   }
-  for (survey_candidate const* const candidate : rest) {
-    auto const same = [&](survey_candidate const* const other) {
+  for (SurveyCandidate const* const candidate : rest) {
+    auto const same = [&](SurveyCandidate const* const other) {
       return candidate_text(*other) == candidate_text(*candidate);
     };
     if (std::ranges::none_of(best, same)) {
@@ -128,7 +128,7 @@ std::vector<survey_candidate const*> ranked(survey_findings const& findings) {
 }
 
 /// What else the text may be, for someone who has to decide.
-void add_candidates(FactLines& lines, survey_findings const& findings) {
+void add_candidates(FactLines& lines, SurveyFindings const& findings) {
   constexpr std::size_t most = 6;
   constexpr std::size_t indent = 9;
   auto const candidates = ranked(findings);
@@ -138,7 +138,7 @@ void add_candidates(FactLines& lines, survey_findings const& findings) {
   }
   lines.add("candidates", fmt::format("the best first{}", and_more(candidates.size() - shown)));
   for (std::size_t i = 0; i < shown; ++i) {
-    survey_candidate const& candidate = *candidates[i];
+    SurveyCandidate const& candidate = *candidates[i];
     std::string const sentence =
         fmt::format("{}: {} of the records, soundness {:.2f}", candidate_text(candidate),
                     share_text(candidate.coverage), candidate.soundness);
@@ -149,7 +149,7 @@ void add_candidates(FactLines& lines, survey_findings const& findings) {
 }  // namespace
 
 void add_confidence(FactLines& lines, Answer const& answer) {
-  survey_findings const& findings = *answer.survey;
+  SurveyFindings const& findings = *answer.survey;
   if (answer.verdict == Verdict::Given || answer.verdict == Verdict::NoRecords) {
     return;
   }
@@ -164,7 +164,7 @@ void add_confidence(FactLines& lines, Answer const& answer) {
 
 std::string survey_facts(Answer const& answer, Settings const& settings, Preview const& preview) {
   FactLines lines(settings.width);
-  survey_findings const& findings = *answer.survey;
+  SurveyFindings const& findings = *answer.survey;
   add_layout(lines, answer, settings);
   add_marks(lines, findings, settings);
   add_confidence(lines, answer);

@@ -21,8 +21,8 @@ namespace cli {
 
 namespace {
 
-using textimport::survey_candidate;
-using textimport::survey_findings;
+using textimport::SurveyCandidate;
+using textimport::SurveyFindings;
 
 std::string answer_text(Answer const& answer) {
   std::size_t const columns = answer.column_types.size();
@@ -33,9 +33,9 @@ std::string answer_text(Answer const& answer) {
 }
 
 /// The hypotheses in the order in which they were tried, each once.
-std::vector<std::string_view> hypotheses_of(survey_findings const& findings) {
+std::vector<std::string_view> hypotheses_of(SurveyFindings const& findings) {
   std::vector<std::string_view> names;
-  for (survey_candidate const& candidate : findings.candidates) {
+  for (SurveyCandidate const& candidate : findings.candidates) {
     if (std::ranges::find(names, candidate.hypothesis) == names.end()) {
       names.emplace_back(candidate.hypothesis);
     }
@@ -61,12 +61,12 @@ std::string hypotheses_text(std::vector<std::string_view> const& names, std::siz
   return text;
 }
 
-std::string candidates_text(survey_findings const& findings,
+std::string candidates_text(SurveyFindings const& findings,
                             std::vector<std::string_view> const& hypotheses) {
   constexpr std::size_t name_cells = 17;
   std::string text = "    #  reading           columns  records  soundness  assumed\n";
   for (std::size_t i = 0; i < findings.candidates.size(); ++i) {
-    survey_candidate const& candidate = findings.candidates[i];
+    SurveyCandidate const& candidate = findings.candidates[i];
     auto const name = display_bytes(candidate_name(candidate), name_cells);
     auto const hypothesis = std::ranges::find(hypotheses, candidate.hypothesis);
     text += fmt::format("  {:>3}  {} {:>7} {:>8} {:>10}  {}\n", i + 1, pad(name, name_cells),
@@ -78,10 +78,10 @@ std::string candidates_text(survey_findings const& findings,
 }
 
 /// The rules of the survey, and behind them any that has no words here.
-std::vector<SurveyRuleText> rules_of(survey_findings const& findings) {
+std::vector<SurveyRuleText> rules_of(SurveyFindings const& findings) {
   auto const known = survey_rules();
   std::vector<SurveyRuleText> rules(known.begin(), known.end());
-  for (survey_candidate const& candidate : findings.candidates) {
+  for (SurveyCandidate const& candidate : findings.candidates) {
     bool const has_words =
         candidate.fell_at.empty() ||
         std::ranges::find(rules, candidate.fell_at, &SurveyRuleText::rule) != rules.end();
@@ -93,14 +93,14 @@ std::vector<SurveyRuleText> rules_of(survey_findings const& findings) {
 }
 
 /// The rules at which readings fell, in their order.
-std::string fallen_text(survey_findings const& findings, std::size_t const width) {
+std::string fallen_text(SurveyFindings const& findings, std::size_t const width) {
   std::string text;
   std::size_t number = 0;
   std::size_t left = findings.candidates.size();
   for (SurveyRuleText const& rule : rules_of(findings)) {
     std::vector<NumberedReading> fallen;
     for (std::size_t i = 0; i < findings.candidates.size(); ++i) {
-      survey_candidate const& candidate = findings.candidates[i];
+      SurveyCandidate const& candidate = findings.candidates[i];
       if (candidate.fell_at == rule.rule) {
         fallen.push_back({i, candidate_name(candidate), candidate.measure});
       }
@@ -128,7 +128,7 @@ std::string survey_summary(Answer const& answer, Settings const& settings) {
 }
 
 std::string survey_story(Answer const& answer, Settings const& settings, Colors const& colors) {
-  survey_findings const& findings = *answer.survey;
+  SurveyFindings const& findings = *answer.survey;
   if (findings.candidates.empty()) {
     return heading("The survey: there is no reading to weigh", colors);
   }

@@ -16,8 +16,8 @@ namespace cli {
 
 namespace {
 
-using textimport::survey_candidate;
-using textimport::table_layout;
+using textimport::SurveyCandidate;
+using textimport::Layout;
 
 constexpr std::array rule_texts{
     SurveyRuleText{"regular_records",
@@ -56,21 +56,21 @@ constexpr std::array rule_texts{
 
 }  // namespace
 
-std::string candidate_name(survey_candidate const& candidate) {
+std::string candidate_name(SurveyCandidate const& candidate) {
   switch (candidate.layout) {
-    case table_layout::Delimited:
+    case Layout::Delimited:
       return delimiter_name(candidate.delimiter);
-    case table_layout::SpaceAligned:
+    case Layout::SpaceAligned:
       return "runs of blanks";
-    case table_layout::FixedWidth:
+    case Layout::FixedWidth:
       return "fixed widths";
-    case table_layout::Lines:
+    case Layout::Lines:
       break;
   }
   return "whole lines";
 }
 
-std::string candidate_text(survey_candidate const& candidate) {
+std::string candidate_text(SurveyCandidate const& candidate) {
   return fmt::format("{}, {} column{}", candidate_name(candidate), candidate.num_columns,
                      candidate.num_columns == 1 ? "" : "s");
 }

@@ -12,10 +12,10 @@
 namespace cli {
 
 /// How a candidate reads a line, in a few words: "comma", "runs of blanks", "fixed widths".
-[[nodiscard]] std::string candidate_name(textimport::survey_candidate const& candidate);
+[[nodiscard]] std::string candidate_name(textimport::SurveyCandidate const& candidate);
 
 /// The same with its number of columns: "comma, 3 columns".
-[[nodiscard]] std::string candidate_text(textimport::survey_candidate const& candidate);
+[[nodiscard]] std::string candidate_text(textimport::SurveyCandidate const& candidate);
 
 /// A share in per cent, which is 100 only for all of it: "97 %".
 [[nodiscard]] std::string share_text(double share);

@@ -174,7 +174,7 @@ std::string_view outcome_word(Outcome const outcome) {
   return "comma_fallback";
 }
 
-std::string_view line_ending_word(textimport::line_ending_counts const& counts) {
+std::string_view line_ending_word(textimport::LineEndingCounts const& counts) {
   int const kinds = (counts.lf > 0 ? 1 : 0) + (counts.crlf > 0 ? 1 : 0) + (counts.cr > 0 ? 1 : 0);
   if (kinds > 1) {
     return "mixed";

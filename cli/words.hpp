@@ -24,7 +24,7 @@ namespace cli {
 [[nodiscard]] std::string_view outcome_word(textio::detection::Outcome outcome);
 
 /// "LF", "CRLF", "CR", "mixed"; empty when no line ends.
-[[nodiscard]] std::string_view line_ending_word(textimport::line_ending_counts const& counts);
+[[nodiscard]] std::string_view line_ending_word(textimport::LineEndingCounts const& counts);
 
 /// A delimiter by its name, "comma"; one without a name in quotes.
 [[nodiscard]] std::string delimiter_name(std::u16string_view delimiter);

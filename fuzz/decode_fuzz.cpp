@@ -9,14 +9,14 @@
 #include "fuzz/input.hpp"
 #include "fuzz/properties.hpp"
 #include "tests/text_import/made_data.hpp"
-#include "text_import/source/decompression_internal.hpp"
+#include "text_import/source/compression/decompression_internal.hpp"
 
 namespace {
 
 using fuzz::require;
 using textimport::made::outcome;
 
-class Pieces : public textimport::byte_source {
+class Pieces : public textimport::ByteSource {
  public:
   Pieces(std::string_view const bytes, std::size_t const piece) : bytes_(bytes), piece_(piece) {}
 
@@ -50,7 +50,7 @@ void require_sound(outcome const& read, std::string_view const bytes) {
   require(read.whole.find(textio::end_mark) == std::u16string::npos, "no end mark in a text");
   require(read.whole.starts_with(read.sample), "the sample is the head of the text");
   auto const& offsets = read.decoded.first_bad_offsets;
-  require(offsets.size() <= textimport::decoding_counts::max_bad_offsets &&
+  require(offsets.size() <= textimport::DecodingCounts::max_bad_offsets &&
               std::ranges::is_sorted(offsets) && offsets.size() <= read.decoded.bad_bytes,
           "bad bytes are placed");
   if (read.error.empty() && read.findings.compression == "none" &&
@@ -80,7 +80,7 @@ extern "C" int LLVMFuzzerTestOneInput(  // NOLINT(readability-identifier-naming)
   static std::vector<std::string> const encodings = textimport::encoding_names();
   fuzz::Input in(data, size);
   std::string const bytes(in.bytes().begin(), in.bytes().end());
-  textimport::open_options options;
+  textimport::OpenOptions options;
   options.block_bytes = 1 + (std::size_t{in.byte()} << in.below(9));
   std::size_t const piece = 1 + std::size_t{in.byte()};
   if (unsigned const sample_bytes = in.byte()) {

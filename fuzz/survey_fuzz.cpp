@@ -14,11 +14,11 @@ namespace {
 
 using fuzz::Placed;
 using fuzz::require;
-using textimport::survey_findings;
-using textimport::survey_options;
+using textimport::SurveyFindings;
+using textimport::SurveyOptions;
 
-survey_options draw_survey_options(fuzz::Input& in) {
-  survey_options options;
+SurveyOptions draw_survey_options(fuzz::Input& in) {
+  SurveyOptions options;
   if (in.flag()) {
     options.parsing = fuzz::draw_options(in);
     options.types = fuzz::draw_type_options(in);
@@ -26,7 +26,7 @@ survey_options draw_survey_options(fuzz::Input& in) {
   unsigned const given = in.byte();
   options.given = {(given & 1U) != 0,  (given & 2U) != 0,  (given & 4U) != 0, (given & 8U) != 0,
                    (given & 16U) != 0, (given & 32U) != 0, (given & 64U) != 0};
-  options.layout = in.choice(textimport::table_layout::Lines);
+  options.layout = in.choice(textimport::Layout::Lines);
   options.records = fuzz::draw_count(in);
   options.goes_on = in.flag();
   options.encoding = std::array{"", "UTF-8", "UTF-16LE", "GB18030"}.at(in.below(4));
@@ -37,7 +37,7 @@ bool is_share(double const value) {
   return value >= 0 && value <= 1;
 }
 
-void require_sound(survey_findings const& findings, std::u16string_view const text) {
+void require_sound(SurveyFindings const& findings, std::u16string_view const text) {
   require(is_share(findings.confidence) && is_share(findings.runner_up_confidence),
           "confidence is a share");
   require(!findings.reason.empty(), "there is a reason");
@@ -51,7 +51,7 @@ void require_sound(survey_findings const& findings, std::u16string_view const te
           "the winner is among the candidates");
   require(!findings.winner || findings.candidates[*findings.winner].fell_at.empty(),
           "the winner stands");
-  require(std::ranges::is_sorted(findings.lines, {}, &textimport::noted_line::line),
+  require(std::ranges::is_sorted(findings.lines, {}, &textimport::NotedLine::line),
           "lines ascend");
   require(findings.lines.empty() || findings.lines.back().line <= text.size(), "lines exist");
   require(findings.data_starts_at <= findings.data_ends_at.value_or(text.size()),
@@ -64,7 +64,7 @@ void require_sound(survey_findings const& findings, std::u16string_view const te
 }
 
 /// All that is said, as text.
-std::string show(survey_findings const& findings) {
+std::string show(SurveyFindings const& findings) {
   std::string shown = fmt::format("{} {} {} {} {} {}", name_of(findings.layout), findings.decided,
                                   findings.confidence, findings.reason, findings.num_columns,
                                   findings.data_starts_at);
@@ -88,11 +88,11 @@ std::string show(survey_findings const& findings) {
 extern "C" int LLVMFuzzerTestOneInput(  // NOLINT(readability-identifier-naming)
     std::uint8_t const* const data, std::size_t const size) {
   fuzz::Input in(data, size);
-  survey_options const options = draw_survey_options(in);
+  SurveyOptions const options = draw_survey_options(in);
   std::u16string const text = in.text();
   std::u16string const head(fuzz::before_end_mark(text));
   Placed const sample(head);
-  survey_findings const findings = textimport::survey_text(sample.field(), options);
+  SurveyFindings const findings = textimport::survey_text(sample.field(), options);
   require_sound(findings, sample.view());
   std::string const shown = show(findings);
   require(show(textimport::survey_text(sample.field(), options)) == shown, "the same answer again");

@@ -5,62 +5,62 @@
 
 namespace textimport {
 
-char const* name_of(import_error_kind const kind) noexcept {
+char const* name_of(ImportErrorKind const kind) noexcept {
   switch (kind) {
-    case import_error_kind::FileNotFound:
+    case ImportErrorKind::FileNotFound:
       return "file_not_found";
-    case import_error_kind::NoPermission:
+    case ImportErrorKind::NoPermission:
       return "no_permission";
-    case import_error_kind::IsDirectory:
+    case ImportErrorKind::IsDirectory:
       return "is_directory";
-    case import_error_kind::OpenFailed:
+    case ImportErrorKind::OpenFailed:
       return "open_failed";
-    case import_error_kind::ReadFailed:
+    case ImportErrorKind::ReadFailed:
       return "read_failed";
-    case import_error_kind::TruncatedCompression:
+    case ImportErrorKind::TruncatedCompression:
       return "truncated_compression";
-    case import_error_kind::DamagedCompression:
+    case ImportErrorKind::DamagedCompression:
       return "damaged_compression";
-    case import_error_kind::WrongChecksum:
+    case ImportErrorKind::WrongChecksum:
       return "wrong_checksum";
-    case import_error_kind::NestedCompression:
+    case ImportErrorKind::NestedCompression:
       return "nested_compression";
-    case import_error_kind::SeveralMembers:
+    case ImportErrorKind::SeveralMembers:
       return "several_members";
-    case import_error_kind::MemberNotFound:
+    case ImportErrorKind::MemberNotFound:
       return "member_not_found";
-    case import_error_kind::UnsupportedArchive:
+    case ImportErrorKind::UnsupportedArchive:
       return "unsupported_archive";
-    case import_error_kind::RatioExceeded:
+    case ImportErrorKind::RatioExceeded:
       return "ratio_exceeded";
-    case import_error_kind::BinaryContent:
+    case ImportErrorKind::BinaryContent:
       return "binary_content";
-    case import_error_kind::UnknownEncoding:
+    case ImportErrorKind::UnknownEncoding:
       return "unknown_encoding";
-    case import_error_kind::BadBytes:
+    case ImportErrorKind::BadBytes:
       return "bad_bytes";
   }
   return "unknown";
 }
 
-import_error::import_error(import_error_kind const kind, std::string path, std::string message)
+ImportError::ImportError(ImportErrorKind const kind, std::string path, std::string message)
     : std::runtime_error(display_name(path) + ": " + message),
       kind_(kind),
       path_(std::move(path)),
       message_(std::move(message)) {}
 
-import_error::import_error(import_error const&) = default;
-import_error::import_error(import_error&&) noexcept = default;
-import_error& import_error::operator=(import_error const&) = default;
-import_error& import_error::operator=(import_error&&) noexcept = default;
-import_error::~import_error() = default;
+ImportError::ImportError(ImportError const&) = default;
+ImportError::ImportError(ImportError&&) noexcept = default;
+ImportError& ImportError::operator=(ImportError const&) = default;
+ImportError& ImportError::operator=(ImportError&&) noexcept = default;
+ImportError::~ImportError() = default;
 
-import_error& import_error::at_byte(std::uint64_t const offset) {
+ImportError& ImportError::at_byte(std::uint64_t const offset) {
   byte_offset_ = offset;
   return *this;
 }
 
-import_error& import_error::with_system_error(int const number) {
+ImportError& ImportError::with_system_error(int const number) {
   system_error_ = number;
   return *this;
 }

@@ -13,7 +13,7 @@
 namespace textimport {
 
 /// What went wrong. Each kind is one thing that a caller may want to treat in its own way.
-enum class import_error_kind : std::uint8_t {
+enum class ImportErrorKind : std::uint8_t {
   FileNotFound,
   NoPermission,
   IsDirectory,
@@ -33,31 +33,31 @@ enum class import_error_kind : std::uint8_t {
 };
 
 /// The word for a kind in machine-readable output: "file_not_found", "no_permission" ...
-[[nodiscard]] TEXT_IMPORT_API char const* name_of(import_error_kind kind) noexcept;
+[[nodiscard]] TEXT_IMPORT_API char const* name_of(ImportErrorKind kind) noexcept;
 
 /// A text could not be opened or read any further.
 ///
 /// what() begins with the path ("standard input" for "-"), followed by ": " and message(). Paths
 /// and member names stand in it as they are: bytes, which need not be UTF-8 and may be control
 /// characters, so that a program escapes them before it shows them on a terminal.
-class TEXT_IMPORT_API import_error : public std::runtime_error {
+class TEXT_IMPORT_API ImportError : public std::runtime_error {
  public:
   /// `message` is one sentence without the path: what failed, where, what to do.
-  import_error(import_error_kind kind, std::string path, std::string message);
+  ImportError(ImportErrorKind kind, std::string path, std::string message);
 
-  import_error(import_error const&);
-  import_error(import_error&&) noexcept;
-  import_error& operator=(import_error const&);
-  import_error& operator=(import_error&&) noexcept;
-  ~import_error() override;
+  ImportError(ImportError const&);
+  ImportError(ImportError&&) noexcept;
+  ImportError& operator=(ImportError const&);
+  ImportError& operator=(ImportError&&) noexcept;
+  ~ImportError() override;
 
   /// Sets where it happened and returns the error itself, to be thrown.
-  import_error& at_byte(std::uint64_t offset);
+  ImportError& at_byte(std::uint64_t offset);
 
   /// Sets the system's error number and returns the error itself, to be thrown.
-  import_error& with_system_error(int number);
+  ImportError& with_system_error(int number);
 
-  [[nodiscard]] import_error_kind kind() const noexcept { return kind_; }
+  [[nodiscard]] ImportErrorKind kind() const noexcept { return kind_; }
 
   /// The path as it was given, "-" for standard input.
   [[nodiscard]] std::string const& path() const noexcept { return path_; }
@@ -73,7 +73,7 @@ class TEXT_IMPORT_API import_error : public std::runtime_error {
   [[nodiscard]] int system_error() const noexcept { return system_error_; }
 
  private:
-  import_error_kind kind_;
+  ImportErrorKind kind_;
   std::string path_;
   std::string message_;
   std::optional<std::uint64_t> byte_offset_;

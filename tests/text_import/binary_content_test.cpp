@@ -6,7 +6,7 @@
 
 #include "tests/text_import/made_data.hpp"
 #include "tests/text_import/tables.hpp"
-#include "text_import/source/binary_content_internal.hpp"
+#include "text_import/source/encoding/binary_content_internal.hpp"
 
 namespace textimport {
 namespace {
@@ -44,7 +44,7 @@ TEST(binary_content, has_many_control_characters_of_several_kinds) {
   EXPECT_EQ(read_all(std::string(600, 'x') + odd).error, "") << "one in 32";
   EXPECT_EQ(read_all("a,b\nc,d\n" + std::string(1000, '\0')).error, "") << "padding";
   EXPECT_EQ(read_all(made::table_of(2000) + "\1\2\3\4\5\6\7").error, "") << "few in much text";
-  open_options named;
+  OpenOptions named;
   named.encoding = "IBM037";
   EXPECT_EQ(read_all(noise, named).error, "") << "whoever names the encoding says that it is text";
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // Opening and reading, with the failures of the system put in its place.
-#include "text_import/source/byte_source.hpp"
+#include "text_import/source/bytes/byte_source.hpp"
 
 #include <cerrno>
 #include <cstring>
@@ -48,9 +48,9 @@ class files : public testing::Test {
 /// The error of opening `path`: name of its kind and errno; empty if there is none.
 std::string open_error(std::string const& path) {
   try {
-    static_cast<void>(text_source::open(path));
+    static_cast<void>(TextSource::open(path));
     return "";
-  } catch (import_error const& error) {
+  } catch (ImportError const& error) {
     return std::string(name_of(error.kind())) + " " + std::to_string(error.system_error());
   }
 }
@@ -77,11 +77,11 @@ TEST_F(files, before_a_colon_are_archives_of_a_member) {
   std::filesystem::create_directory(folder_ + "/d");
   write("plain:m", "3\n");
   write("d:e.zip", made::zip({{"m", "4\n"}}));
-  EXPECT_EQ(text_source::open(archive + ":m").sample().view(), u"1\n");
-  EXPECT_EQ(text_source::open(archive + ":m").path(), archive);
-  EXPECT_EQ(text_source::open(archive + ":n:o").sample().view(), u"2\n");
-  EXPECT_EQ(text_source::open(folder_ + "/plain:m").sample().view(), u"3\n") << "a file of its own";
-  EXPECT_EQ(text_source::open(folder_ + "/d:e.zip:m").sample().view(), u"4\n") << "d is a folder";
+  EXPECT_EQ(TextSource::open(archive + ":m").sample().view(), u"1\n");
+  EXPECT_EQ(TextSource::open(archive + ":m").path(), archive);
+  EXPECT_EQ(TextSource::open(archive + ":n:o").sample().view(), u"2\n");
+  EXPECT_EQ(TextSource::open(folder_ + "/plain:m").sample().view(), u"3\n") << "a file of its own";
+  EXPECT_EQ(TextSource::open(folder_ + "/d:e.zip:m").sample().view(), u"4\n") << "d is a folder";
   EXPECT_EQ(open_error(archive + ":x"), "member_not_found 0");
   EXPECT_EQ(open_error(folder_ + "/none:m"), "file_not_found " + std::to_string(ENOENT));
 }
@@ -147,7 +147,7 @@ TEST_F(files, are_not_read_behind_their_end_or_their_error) {
       if (failure == 0) {
         EXPECT_EQ(source->read(room, sizeof room), 0U);
       } else {
-        EXPECT_THROW(source->read(room, sizeof room), import_error);
+        EXPECT_THROW(source->read(room, sizeof room), ImportError);
       }
     }
     EXPECT_EQ(calls, 1U);

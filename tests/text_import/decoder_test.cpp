@@ -8,28 +8,28 @@
 
 #include "tests/text_import/made_data.hpp"
 #include "tests/text_import/tables.hpp"
-#include "text_import/source/decoder_internal.hpp"
+#include "text_import/source/encoding/decoder_internal.hpp"
 
 namespace textimport {
 namespace {
 
 struct decoding {
   std::u16string text;
-  decoding_counts counts;
+  DecodingCounts counts;
   std::optional<std::uint64_t> bad_byte;  // where a strict decoder stopped
 };
 
 decoding decoded(std::string const& encoding, std::string_view bytes, std::size_t const block,
                  bool const strict = false) {
   decoding result;
-  decoder decoder(encoding, 0, strict, "made");
+  Decoder decoder(encoding, 0, strict, "made");
   try {
     for (; !bytes.empty(); bytes.remove_prefix(std::min(block, bytes.size()))) {
       decoder.decode(bytes.substr(0, block), false, result.text);
     }
     decoder.decode({}, true, result.text);
-  } catch (import_error const& error) {
-    EXPECT_EQ(error.kind(), import_error_kind::BadBytes);
+  } catch (ImportError const& error) {
+    EXPECT_EQ(error.kind(), ImportErrorKind::BadBytes);
     result.bad_byte = error.byte_offset();
   }
   result.counts = decoder.counts();
@@ -89,7 +89,7 @@ TEST(decoder, gives_the_same_for_random_bytes_in_blocks_of_any_size) {
 }
 
 TEST(decoder, counts_all_bad_bytes_and_end_marks_but_places_the_first_few) {
-  decoder decoder("UTF-8", 0, false, "made");
+  Decoder decoder("UTF-8", 0, false, "made");
   std::u16string text;
   std::string bytes;
   for (int i = 0; i < 1000; ++i) {
@@ -98,8 +98,8 @@ TEST(decoder, counts_all_bad_bytes_and_end_marks_but_places_the_first_few) {
   decoder.decode(bytes, true, text);
   EXPECT_EQ(decoder.counts().bad_bytes, 1000U);
   EXPECT_EQ(decoder.counts().replaced_end_marks, 1000U);
-  EXPECT_EQ(decoder.counts().first_bad_offsets.size(), decoding_counts::max_bad_offsets);
-  EXPECT_EQ(decoder.counts().first_bad_offsets.back(), 5 * (decoding_counts::max_bad_offsets - 1));
+  EXPECT_EQ(decoder.counts().first_bad_offsets.size(), DecodingCounts::max_bad_offsets);
+  EXPECT_EQ(decoder.counts().first_bad_offsets.back(), 5 * (DecodingCounts::max_bad_offsets - 1));
   EXPECT_EQ(text.find(u'\uFFFF'), std::u16string::npos);
 }
 

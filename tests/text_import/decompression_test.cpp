@@ -6,8 +6,8 @@
 
 #include "tests/text_import/made_data.hpp"
 #include "tests/text_import/tables.hpp"
-#include "text_import/source/archive_library_internal.hpp"
-#include "text_import/source/decompression_internal.hpp"
+#include "text_import/source/compression/archive_library_internal.hpp"
+#include "text_import/source/compression/decompression_internal.hpp"
 
 namespace textimport {
 namespace {
@@ -31,7 +31,7 @@ TEST_P(packed_text, is_the_text_again_in_blocks_of_any_size) {
       if (block == 1 && size > 10000) {
         continue;  // slow, and no other case
       }
-      open_options options;
+      OpenOptions options;
       options.block_bytes = block;
       options.sample_bytes = 100000;
       outcome const read = read_all(bytes, options);
@@ -137,7 +137,7 @@ TEST(ratio_limit, stops_whoever_reads_on_but_not_the_sample) {
   EXPECT_TRUE(stopped.is_open);
   EXPECT_EQ(stopped.error, "ratio_exceeded");
   EXPECT_LT(stopped.whole.size(), std::size_t{18} << 20U);
-  open_options unlimited;
+  OpenOptions unlimited;
   unlimited.ratio_limit = 0;
   EXPECT_EQ(read_all(bomb, unlimited).whole.size(), std::size_t{40} << 20U);
 }
@@ -148,7 +148,7 @@ TEST(zip, is_read_by_its_only_or_its_named_member) {
     if (!row[6].empty()) {
       members.emplace_back(row[6], row[7]);
     }
-    open_options options;
+    OpenOptions options;
     options.member = row[0];
     outcome const read = read_all(made::zip(members), options);
     EXPECT_EQ(read.findings.member, row[1]);
@@ -159,7 +159,7 @@ TEST(zip, is_read_by_its_only_or_its_named_member) {
 
 TEST(zip, with_a_member_larger_than_the_sample_says_what_was_not_seen) {
   std::string const big = made::table_of(20000);
-  open_options options;
+  OpenOptions options;
   options.sample_bytes = 1000;
   outcome const one = read_all(made::zip({{"a", big}}), options);
   EXPECT_TRUE(one.error.empty() && one.findings.warnings.size() == 1);
@@ -170,20 +170,20 @@ TEST(zip, with_a_member_larger_than_the_sample_says_what_was_not_seen) {
   EXPECT_EQ(read_all(made::zip({{"a", big}, {"b", "2\n"}}), options).whole, u"2\n");
 }
 
-TEST(archive_library, that_cannot_be_loaded_is_named) {
+TEST(ArchiveLibrary, that_cannot_be_loaded_is_named) {
   for (std::string const file : {"no_such_library.so.1", "libz.so.1"}) {
     try {
       static_cast<void>(load_archive_library(file.c_str(), "made"));
       ADD_FAILURE() << file << " was loaded";
-    } catch (import_error const& error) {
-      EXPECT_EQ(error.kind(), import_error_kind::UnsupportedArchive);
+    } catch (ImportError const& error) {
+      EXPECT_EQ(error.kind(), ImportErrorKind::UnsupportedArchive);
       EXPECT_NE(error.message().find(file), std::string::npos) << error.message();
     }
   }
 }
 
 TEST(member, of_what_is_no_archive_is_an_error) {
-  open_options options;
+  OpenOptions options;
   options.member = "a.csv";
   EXPECT_EQ(read_all("a,b\n", options).error, "member_not_found");
   EXPECT_EQ(read_all(packed("gzip", "a,b\n"), options).error, "member_not_found");

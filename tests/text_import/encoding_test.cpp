@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "text_import/source/encoding.hpp"
+#include "text_import/source/encoding/encoding.hpp"
 
 #include <map>
 
@@ -41,7 +41,7 @@ TEST(encoding, is_found_in_tables_and_gives_their_text) {
     EXPECT_EQ(read.findings.encoding.is_guess(), row[1] == "statistics");
     EXPECT_EQ(read.findings.encoding.mark_bytes, row[2].size());
     EXPECT_TRUE(read.whole == text);
-    open_options options;
+    OpenOptions options;
     options.encoding = row[0];
     options.strict = true;
     EXPECT_TRUE(read_all(bytes, options).whole == text) << "when it is given";
@@ -50,7 +50,7 @@ TEST(encoding, is_found_in_tables_and_gives_their_text) {
 
 TEST(encoding, of_odd_bytes_is_decided_for_a_reason) {
   made::for_each_row("encoding_of_odd_bytes.tsv", [&](made::cells const& row) {
-    encoding_finding const found = find_encoding(row[0], row[1] == "ends");
+    EncodingFinding const found = find_encoding(row[0], row[1] == "ends");
     EXPECT_EQ(found.name, row[2]) << row[0];
     EXPECT_EQ(name_of(found.reason), row[3]) << row[0];
   });
@@ -59,10 +59,10 @@ TEST(encoding, of_odd_bytes_is_decided_for_a_reason) {
 TEST(encoding, is_given_by_any_of_its_names_or_near_ones_are_proposed) {
   made::for_each_row("encoding_given.tsv", [&](made::cells const& row) {
     try {
-      encoding_finding const found = given_encoding(row[0], row[1], "made");
+      EncodingFinding const found = given_encoding(row[0], row[1], "made");
       EXPECT_EQ(found.name, row[2]) << row[0];
       EXPECT_EQ(std::to_string(found.mark_bytes), row[3]) << row[0];
-    } catch (import_error const& error) {
+    } catch (ImportError const& error) {
       EXPECT_EQ(row[3], "unknown") << error.what();
       EXPECT_NE(error.message().find(row[2]), std::string::npos) << error.message();
     }

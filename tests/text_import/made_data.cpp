@@ -80,10 +80,10 @@ std::string table_of(std::size_t const bytes) {
   }
 }
 
-outcome read_all(std::unique_ptr<byte_source> bytes, open_options const& options) {
+outcome read_all(std::unique_ptr<ByteSource> bytes, OpenOptions const& options) {
   outcome result;
   try {
-    text_source source = text_source::open(std::move(bytes), "made", options);
+    TextSource source = TextSource::open(std::move(bytes), "made", options);
     result.is_open = true;
     result.findings = source.findings();
     result.sample = source.sample().view();
@@ -104,7 +104,7 @@ outcome read_all(std::unique_ptr<byte_source> bytes, open_options const& options
       take();
       throw;
     }
-  } catch (import_error const& error) {
+  } catch (ImportError const& error) {
     result.error = name_of(error.kind());
     result.message = error.message();
     result.error_byte = error.byte_offset().value_or(0);
@@ -112,7 +112,7 @@ outcome read_all(std::unique_ptr<byte_source> bytes, open_options const& options
   return result;
 }
 
-outcome read_all(std::string const& bytes, open_options const& options) {
+outcome read_all(std::string const& bytes, OpenOptions const& options) {
   return read_all(memory_bytes(bytes), options);
 }
 

@@ -28,10 +28,10 @@ std::string table_of(std::size_t bytes);
 /// What came of a text: its sample and stream, or the kinds of errors met at opening and reading.
 struct outcome {
   bool is_open = false;
-  text_findings findings;
+  TextFindings findings;
   std::u16string sample;
   std::u16string whole;
-  decoding_counts decoded;
+  DecodingCounts decoded;
   std::string error;  // name_of() the kind, "" without; of open() or of the stream
   std::string message;
   std::uint64_t error_byte = 0;
@@ -41,8 +41,8 @@ struct outcome {
 };
 
 /// Opens and reads to the end.
-outcome read_all(std::unique_ptr<byte_source> bytes, open_options const& options = {});
-outcome read_all(std::string const& bytes, open_options const& options = {});
+outcome read_all(std::unique_ptr<ByteSource> bytes, OpenOptions const& options = {});
+outcome read_all(std::string const& bytes, OpenOptions const& options = {});
 
 /// UTF-8 to UTF-16, for expected texts.
 std::u16string utf16(std::string const& utf8);

@@ -20,14 +20,14 @@
 namespace {
 
 namespace fs = std::filesystem;
-using textimport::column_findings;
-using textimport::date_order;
-using textimport::survey_candidate;
-using textimport::survey_findings;
-using textimport::survey_options;
+using textimport::ColumnFindings;
+using textimport::DateOrder;
+using textimport::SurveyCandidate;
+using textimport::SurveyFindings;
+using textimport::SurveyOptions;
 using textimport::survey_text;
-using textimport::table_layout;
-using textimport::text_source;
+using textimport::Layout;
+using textimport::TextSource;
 
 fs::path const folder = TFD_TESTS_FOLDER "/text_import/surveys";
 
@@ -35,7 +35,7 @@ std::string show_mark(char16_t const c) {
   return c == 0 ? "none" : support::show({&c, 1});
 }
 
-void describe_column(std::ostream& out, column_findings const& c) {
+void describe_column(std::ostream& out, ColumnFindings const& c) {
   out << "column '" << support::show(c.name) << "' " << name_of(c.type) << " " << c.fitting << "/"
       << c.values;
   if (c.empty > 0) {
@@ -47,7 +47,7 @@ void describe_column(std::ostream& out, column_findings const& c) {
   if (c.decimal_mark != 0 || c.thousands_mark != 0) {
     out << ", marks " << show_mark(c.decimal_mark) << " " << show_mark(c.thousands_mark);
   }
-  if (c.order != date_order::None) {
+  if (c.order != DateOrder::None) {
     out << ", " << name_of(c.order);
   }
   out << (c.leading_zeros ? ", leading zeros" : "") << (c.quoted ? ", quoted" : "") << ", longest "
@@ -60,7 +60,7 @@ void describe_column(std::ostream& out, column_findings const& c) {
   out << "\n";
 }
 
-std::string describe(survey_findings const& f) {
+std::string describe(SurveyFindings const& f) {
   std::ostringstream out;
   out << (f.decided ? "" : "not decided: ") << name_of(f.layout) << " '"
       << support::show(f.delimiter) << "', " << f.num_columns << " columns, " << f.reason << "\n";
@@ -70,7 +70,7 @@ std::string describe(survey_findings const& f) {
     out << "line " << noted.line << " " << name_of(noted.role) << "\n";
   }
   std::ranges::for_each(f.columns, [&](auto const& column) { describe_column(out, column); });
-  for (survey_candidate const& c : f.candidates) {
+  for (SurveyCandidate const& c : f.candidates) {
     out << "reading " << name_of(c.layout) << " '" << support::show(c.delimiter) << "' "
         << c.num_columns << " (" << c.hypothesis << "): " << (c.fell_at.empty() ? "won" : c.fell_at)
         << "\n";
@@ -79,8 +79,8 @@ std::string describe(survey_findings const& f) {
 }
 
 std::string survey_file(fs::path const& path) {
-  auto const text = text_source::open(path.string());
-  survey_options options;
+  auto const text = TextSource::open(path.string());
+  SurveyOptions options;
   options.encoding = text.findings().encoding.name;
   auto const found = survey_text(text.sample(), options);
   EXPECT_TRUE(found.confidence >= 0 && found.confidence <= 1);
@@ -123,9 +123,9 @@ INSTANTIATE_TEST_SUITE_P(Texts, Survey, testing::ValuesIn(samples()),
 TEST(SurveyGiven, PartsStayAsTheyAre) {
   std::u16string const text = u"x y;1,5\nz w;2,5\nv u;3,5\n";
   auto const answer = [&](auto const give) {
-    survey_options options;
+    SurveyOptions options;
     give(options);
-    survey_findings const f = survey_text(textio::Field(text), options);
+    SurveyFindings const f = survey_text(textio::Field(text), options);
     return std::string(name_of(f.layout)) + " " + support::show(f.delimiter) + " " +
            std::to_string(f.num_columns) + " from " + std::to_string(f.data_starts_at);
   };
@@ -140,11 +140,11 @@ TEST(SurveyGiven, PartsStayAsTheyAre) {
             }));
   EXPECT_EQ("lines  1 from 0", answer([](auto& o) {
               o.given.layout = true;
-              o.layout = table_layout::Lines;
+              o.layout = Layout::Lines;
             }));
   EXPECT_EQ("space-aligned  2 from 1", answer([](auto& o) {
               o.given.layout = true;
-              o.layout = table_layout::SpaceAligned;
+              o.layout = Layout::SpaceAligned;
             }));
   EXPECT_EQ("delimited ; 2 from 1", answer([](auto& o) {
               o.given.header_lines = true;

@@ -52,7 +52,7 @@ TEST(sample, is_cut_behind_the_last_whole_line_if_the_text_goes_on) {
   made::for_each_row("sample_cuts.tsv", [&](made::cells const& row) {
     for (std::size_t const block : {1U, 2U, 3U, 64U}) {
       SCOPED_TRACE(row[0] + " " + row[1]);
-      open_options options;
+      OpenOptions options;
       options.sample_bytes = std::stoul(row[1]);
       options.block_bytes = block;
       outcome const read = read_all(row[0], options);
@@ -68,7 +68,7 @@ TEST(sample, is_cut_behind_the_last_whole_line_if_the_text_goes_on) {
 
 TEST(sample, has_its_line_ends_and_odd_characters_counted) {
   made::for_each_row("counts.tsv", [&](made::cells const& row) {
-    text_findings const found = read_all(row[0]).findings;
+    TextFindings const found = read_all(row[0]).findings;
     std::ostringstream counts;
     counts << found.line_endings.lf << ' ' << found.line_endings.crlf << ' '
            << found.line_endings.cr << ' ' << found.nuls << ' ' << found.decoding.bad_bytes << ' '
@@ -78,7 +78,7 @@ TEST(sample, has_its_line_ends_and_odd_characters_counted) {
 }
 
 TEST(sample, has_the_same_counts_wherever_they_stand) {
-  open_options options;
+  OpenOptions options;
   options.encoding = "UTF-8";
   for (std::size_t before = 0; before < 520; ++before) {
     SCOPED_TRACE(before);
@@ -96,7 +96,7 @@ TEST(sample, has_the_same_counts_wherever_they_stand) {
 TEST(stream, goes_on_where_the_sample_ended_with_everything_counted) {
   std::string const begin = "\u00E4\u00F6\u00FC\u00DF\u00C4\n" + made::table_of(5000);
   std::string const text = begin + "\xFF" + made::table_of(5000) + "\xFE\xFE";
-  open_options options;
+  OpenOptions options;
   options.sample_bytes = 1000;
   options.block_bytes = 100;
   outcome const read = read_all(text, options);
@@ -114,19 +114,19 @@ TEST(stream, goes_on_where_the_sample_ended_with_everything_counted) {
 }
 
 TEST(stream, outlives_the_source_and_can_be_taken_once) {
-  text_source source = text_source::open(memory_bytes("a,b\n"), "made");
+  TextSource source = TextSource::open(memory_bytes("a,b\n"), "made");
   auto const stream = source.stream();
   EXPECT_THROW(static_cast<void>(source.stream()), std::logic_error);
-  text_source const moved = std::move(source);
+  TextSource const moved = std::move(source);
   EXPECT_EQ(moved.sample().view(), u"a,b\n");
-  source = text_source::open(memory_bytes("c\n"), "other");
+  source = TextSource::open(memory_bytes("c\n"), "other");
   stream.resizeInternalBuffer(10);
   stream.refill();
   EXPECT_EQ(std::u16string(stream.data(), stream.buffered()), u"a,b\n");
 }
 
 /// 64 MiB of lines, made as they are read.
-class endless_lines : public byte_source {
+class endless_lines : public ByteSource {
  public:
   std::size_t read(char* const room, std::size_t const capacity) override {
     std::size_t const length = std::min(capacity, left_);
@@ -144,7 +144,7 @@ class endless_lines : public byte_source {
 TEST(memory, stays_below_its_bound_for_text_of_any_size) {
   std::size_t const before = bytes_in_use;
   most_bytes_in_use = before;
-  text_source source = text_source::open(std::make_unique<endless_lines>(), "made");
+  TextSource source = TextSource::open(std::make_unique<endless_lines>(), "made");
   EXPECT_LT(most_bytes_in_use - before, (std::size_t{7} << 20U) / 2);
   auto stream = source.stream();
   stream.resizeInternalBuffer(1 << 16);
@@ -158,8 +158,8 @@ TEST(memory, stays_below_its_bound_for_text_of_any_size) {
   EXPECT_LT(most_bytes_in_use - before, (std::size_t{7} << 20U) / 2);
 }
 
-TEST(open_options, of_no_size_mean_one) {
-  open_options options;
+TEST(OpenOptions, of_no_size_mean_one) {
+  OpenOptions options;
   options.sample_bytes = 0;
   options.block_bytes = 0;
   EXPECT_EQ(read_all("ab", options).sample, u"a");

@@ -19,7 +19,7 @@
 namespace {
 
 using ostrel::io::text::typedetection::TypeAnalyzerOptions;
-using textimport::text_source;
+using textimport::TextSource;
 using textio::Field;
 using textio::detection::DetectionReport;
 using textio::detection::StrategySelector;
@@ -69,7 +69,7 @@ TEST(Allocations, MayFailInEveryDecision) {
   for (char const* const folder : {"tests/samples", "examples/data"}) {
     for (std::string const& path : files_in(folder)) {
       SCOPED_TRACE(path);
-      text_source const source = text_source::open(path);
+      TextSource const source = TextSource::open(path);
       textio::parser::options options;
       options.delimiters = {u"a delimiter too long to be kept in place"};
       TypeAnalyzerOptions const types;
@@ -115,9 +115,9 @@ TEST(Allocations, MayFailWhenATextIsOpened) {
     std::string const name = "a name too long to be kept in place";
     count += fail_each_allocation([&] {
       try {
-        auto source = text_source::open(textimport::memory_bytes(bytes), name);
+        auto source = TextSource::open(textimport::memory_bytes(bytes), name);
         source.stream().refill();
-      } catch (textimport::import_error const&) {
+      } catch (textimport::ImportError const&) {
         // what is wrong with the bytes
       }
     });
@@ -162,7 +162,7 @@ TEST(Memory, IsBoundedOnExamples) {
   double worst_long = 0;
   for (std::string const& path : files_in("examples/data")) {
     SCOPED_TRACE(path);
-    text_source const source = text_source::open(path);
+    TextSource const source = TextSource::open(path);
     std::u16string text(source.sample().view());
     if (text.empty()) {
       continue;

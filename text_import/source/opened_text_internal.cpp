@@ -8,18 +8,18 @@
 #include <algorithm>
 #include <utility>
 
-#include "text_import/source/binary_content_internal.hpp"
-#include "text_import/source/decompression_internal.hpp"
-#include "text_import/source/unit_count_internal.hpp"
+#include "text_import/source/encoding/binary_content_internal.hpp"
+#include "text_import/source/compression/decompression_internal.hpp"
+#include "text_import/source/encoding/unit_count_internal.hpp"
 
 namespace textimport {
 namespace {
 
 /// Damage behind text that was delivered does not take that text away.
-bool leaves_text_usable(import_error_kind const kind) {
-  return kind == import_error_kind::DamagedCompression ||
-         kind == import_error_kind::TruncatedCompression ||
-         kind == import_error_kind::WrongChecksum;
+bool leaves_text_usable(ImportErrorKind const kind) {
+  return kind == ImportErrorKind::DamagedCompression ||
+         kind == ImportErrorKind::TruncatedCompression ||
+         kind == ImportErrorKind::WrongChecksum;
 }
 
 /// The length of `text` up to and with its last line ending, 0 without any. A CR at the very end
@@ -32,7 +32,7 @@ std::size_t whole_lines(std::u16string_view const text) {
   return text.substr(0, searched).find_last_of(u"\r\n") + 1;
 }
 
-line_ending_counts count_line_endings(std::u16string_view const text) {
+LineEndingCounts count_line_endings(std::u16string_view const text) {
   auto const is_crlf = [](char16_t const unit, char16_t const next) {
     return unit == u'\r' && next == u'\n';
   };
@@ -43,12 +43,12 @@ line_ending_counts count_line_endings(std::u16string_view const text) {
 
 }  // namespace
 
-opened_text::opened_text(std::unique_ptr<byte_source> raw, std::string path,
-                         open_options const& options)
+OpenedText::OpenedText(std::unique_ptr<ByteSource> raw, std::string path,
+                         OpenOptions const& options)
     : path_(std::move(path)), options_(options) {
   options_.sample_bytes = std::max<std::size_t>(options_.sample_bytes, 1);
   options_.block_bytes = std::max<std::size_t>(options_.block_bytes, 1);
-  decompressed_bytes opened = decompress(std::move(raw), path_, options_, findings_.warnings);
+  DecompressedBytes opened = decompress(std::move(raw), path_, options_, findings_.warnings);
   bytes_ = std::move(opened.bytes);
   findings_.compression = std::move(opened.compression);
   findings_.member = std::move(opened.member);
@@ -64,7 +64,7 @@ opened_text::opened_text(std::unique_ptr<byte_source> raw, std::string path,
 }
 
 /// Reads up to `capacity` bytes, valid until the next call; none at the end.
-std::string_view opened_text::read_block(std::size_t const capacity) {
+std::string_view OpenedText::read_block(std::size_t const capacity) {
   if (block_capacity_ < capacity) {
     block_ = std::make_unique_for_overwrite<char[]>(capacity);
     block_capacity_ = capacity;
@@ -74,7 +74,7 @@ std::string_view opened_text::read_block(std::size_t const capacity) {
   return {block_.get(), length};
 }
 
-void opened_text::read_head(std::string& head) {
+void OpenedText::read_head(std::string& head) {
   try {
     while (head.size() < options_.sample_bytes && !at_end_) {
       head += read_block(std::min(options_.block_bytes, options_.sample_bytes - head.size()));
@@ -82,23 +82,23 @@ void opened_text::read_head(std::string& head) {
     if (!at_end_) {
       ahead_ = read_block(options_.block_bytes);
     }
-  } catch (import_error const& error) {
+  } catch (ImportError const& error) {
     note_failure(error, !head.empty());
   }
   findings_.bytes_read = head.size();
   findings_.goes_on = !at_end_;
 }
 
-void opened_text::note_failure(import_error const& error, bool const after_text) {
+void OpenedText::note_failure(ImportError const& error, bool const after_text) {
   if (!after_text || !leaves_text_usable(error.kind())) {
     throw;  // the error that is being handled
   }
   failure_ = std::current_exception();
-  at_end_ = error.kind() == import_error_kind::WrongChecksum;  // the text itself is complete
+  at_end_ = error.kind() == ImportErrorKind::WrongChecksum;  // the text itself is complete
   findings_.warnings.push_back(error.message());
 }
 
-void opened_text::note_unseen_members() {
+void OpenedText::note_unseen_members() {
   bool const is_first_of_many = findings_.compression == "zip" && options_.member.empty();
   if (is_first_of_many && findings_.goes_on && !failure_) {
     findings_.warnings.emplace_back(
@@ -107,7 +107,7 @@ void opened_text::note_unseen_members() {
   }
 }
 
-void opened_text::decode_head(std::string_view const head) {
+void OpenedText::decode_head(std::string_view const head) {
   bool const is_given = !options_.encoding.empty();
   findings_.encoding = is_given ? given_encoding(options_.encoding, head, path_)
                                 : find_encoding(head, !findings_.goes_on);
@@ -121,7 +121,7 @@ void opened_text::decode_head(std::string_view const head) {
   }
 }
 
-void opened_text::cut_sample() {
+void OpenedText::cut_sample() {
   sample_length_ = head_text_.size();
   if (findings_.goes_on) {
     std::size_t const length = whole_lines(head_text_);
@@ -130,7 +130,7 @@ void opened_text::cut_sample() {
   }
 }
 
-std::size_t opened_text::deliver(char16_t* const room, std::size_t const capacity) {
+std::size_t OpenedText::deliver(char16_t* const room, std::size_t const capacity) {
   while (undelivered_.empty()) {
     if (failure_) {
       std::rethrow_exception(failure_);
@@ -145,7 +145,7 @@ std::size_t opened_text::deliver(char16_t* const room, std::size_t const capacit
   return delivered;
 }
 
-void opened_text::decode_next_block() {
+void OpenedText::decode_next_block() {
   block_text_.clear();
   try {
     std::string_view const block =

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The state that a text_source and its stream share: from compressed bytes to the sample, and on
+// The state that a TextSource and its stream share: from compressed bytes to the sample, and on
 // from there.
 #pragma once
 
@@ -11,44 +11,44 @@
 #include <string_view>
 
 #include "text_import/import_error.hpp"
-#include "text_import/source/decoder_internal.hpp"
+#include "text_import/source/encoding/decoder_internal.hpp"
 #include "text_import/source/text_source.hpp"
 
 namespace textimport {
 
-class opened_text {
+class OpenedText {
  public:
-  /// Opens a text as text_source::open() describes it.
-  opened_text(std::unique_ptr<byte_source> raw, std::string path, open_options const& options);
+  /// Opens a text as TextSource::open() describes it.
+  OpenedText(std::unique_ptr<ByteSource> raw, std::string path, OpenOptions const& options);
 
   [[nodiscard]] std::string const& path() const noexcept { return path_; }
 
-  [[nodiscard]] text_findings const& findings() const noexcept { return findings_; }
+  [[nodiscard]] TextFindings const& findings() const noexcept { return findings_; }
 
   [[nodiscard]] std::u16string_view sample() const noexcept {
     return {head_text_.data(), sample_length_};
   }
 
-  [[nodiscard]] decoding_counts const& decoded() const noexcept { return decoder_->counts(); }
+  [[nodiscard]] DecodingCounts const& decoded() const noexcept { return decoder_->counts(); }
 
   /// Writes the next code units of the whole text to `room`, at most `capacity`; 0 at its end.
-  /// Throws import_error behind the last that can be had.
+  /// Throws ImportError behind the last that can be had.
   std::size_t deliver(char16_t* room, std::size_t capacity);
 
  private:
   std::string_view read_block(std::size_t capacity);
   void read_head(std::string& head);
-  void note_failure(import_error const& error, bool after_text);
+  void note_failure(ImportError const& error, bool after_text);
   void note_unseen_members();
   void decode_head(std::string_view head);
   void cut_sample();
   void decode_next_block();
 
   std::string path_;
-  open_options options_;
-  text_findings findings_;
-  std::unique_ptr<byte_source> bytes_;
-  std::optional<decoder> decoder_;
+  OpenOptions options_;
+  TextFindings findings_;
+  std::unique_ptr<ByteSource> bytes_;
+  std::optional<Decoder> decoder_;
   std::u16string head_text_;  // the sample and the begun line behind it
   std::size_t sample_length_ = 0;
   std::unique_ptr<char[]> block_;

@@ -14,13 +14,13 @@
 #include "text_format_detection/model/field.hpp"
 #include "text_format_detection/platform/text_stream.hpp"
 #include "text_import/export.hpp"
-#include "text_import/source/byte_source.hpp"
-#include "text_import/source/encoding.hpp"
+#include "text_import/source/bytes/byte_source.hpp"
+#include "text_import/source/encoding/encoding.hpp"
 
 namespace textimport {
 
 /// How a text is opened.
-struct open_options {
+struct OpenOptions {
   /// How many bytes of the decompressed data are looked at for the sample. At least 1.
   std::size_t sample_bytes = std::size_t{1} << 20;
   /// The encoding by any of its usual names; empty: it is found out.
@@ -37,14 +37,14 @@ struct open_options {
 };
 
 /// Line endings by kind. A CR LF is one of its own kind and not counted as CR or LF.
-struct line_ending_counts {
+struct LineEndingCounts {
   std::uint64_t lf = 0;
   std::uint64_t crlf = 0;
   std::uint64_t cr = 0;
 };
 
 /// What decoding had to replace by U+FFFD, so that no text is taken for something it is not.
-struct decoding_counts {
+struct DecodingCounts {
   /// Bytes without a meaning in the encoding.
   std::uint64_t bad_bytes = 0;
   /// Where the first of them stand, at most `max_bad_offsets`: byte offsets in the decompressed
@@ -57,30 +57,30 @@ struct decoding_counts {
 };
 
 /// What was found out about a text when it was opened.
-struct text_findings {
-  encoding_finding encoding;
+struct TextFindings {
+  EncodingFinding encoding;
   /// "none", "gzip", "bzip2", "xz", "zstd", "lz4" or "zip".
   std::string compression = "none";
   /// The name of the archive's member as its bytes stand in the archive; empty without archive.
   std::string member;
-  /// How many bytes of the (decompressed) data the head has: all, or open_options::sample_bytes.
+  /// How many bytes of the (decompressed) data the head has: all, or OpenOptions::sample_bytes.
   std::uint64_t bytes_read = 0;
   /// True when the data go on behind the head, or would if they were not damaged.
   bool goes_on = false;
   /// True when the text goes on and no line ends in the head: the sample is a piece of one line.
   bool no_line_end = false;
   /// Counted in the sample.
-  line_ending_counts line_endings;
+  LineEndingCounts line_endings;
   /// NUL characters, counted in the sample.
   std::uint64_t nuls = 0;
   /// Counted in the head, which reaches behind the sample by part of a line.
-  decoding_counts decoding;
+  DecodingCounts decoding;
   /// Sentences, without the path, on what is wrong but did not prevent the answer: compressed data
   /// that are damaged behind the text that they delivered, bytes behind the compressed data ...
   std::vector<std::string> warnings;
 };
 
-class opened_text;
+class OpenedText;
 
 /// A text file, opened: decompressed, its encoding found, its head decoded to UTF-16.
 ///
@@ -92,25 +92,25 @@ class opened_text;
 /// below 0.1 MiB, bzip2 4 MiB, lz4 8 MiB, xz and zstd as much as the one who compressed chose:
 /// usually 8 MiB, at its strongest 65 MiB and 128 MiB. Larger blocks count three times.
 ///
-/// Can be moved; views of the sample stay valid until the last of the text_source and its stream
+/// Can be moved; views of the sample stay valid until the last of the TextSource and its stream
 /// is destroyed. Not for several threads at once.
-class TEXT_IMPORT_API text_source {
+class TEXT_IMPORT_API TextSource {
  public:
   /// Opens the file at `path`, or standard input for "-". "archive.zip:member" names a member of
   /// an archive when there is no file of that whole name; so does "-:member".
-  /// Throws import_error, of every kind. Damaged or truncated compressed data are an error only if
+  /// Throws ImportError, of every kind. Damaged or truncated compressed data are an error only if
   /// they delivered no text, else a warning; see stream().
-  [[nodiscard]] static text_source open(std::string const& path, open_options const& options = {});
+  [[nodiscard]] static TextSource open(std::string const& path, OpenOptions const& options = {});
 
   /// The same for bytes from elsewhere; `path` is what messages call them.
-  [[nodiscard]] static text_source open(std::unique_ptr<byte_source> bytes, std::string const& path,
-                                        open_options const& options = {});
+  [[nodiscard]] static TextSource open(std::unique_ptr<ByteSource> bytes, std::string const& path,
+                                        OpenOptions const& options = {});
 
-  text_source(text_source&&) noexcept;
-  text_source& operator=(text_source&&) noexcept;
-  text_source(text_source const&) = delete;
-  text_source& operator=(text_source const&) = delete;
-  ~text_source();
+  TextSource(TextSource&&) noexcept;
+  TextSource& operator=(TextSource&&) noexcept;
+  TextSource(TextSource const&) = delete;
+  TextSource& operator=(TextSource const&) = delete;
+  ~TextSource();
 
   /// The head of the text. When the text goes on it is cut behind the last whole line; a CR at the
   /// very end of the head does not count as one, because an LF may follow. If no line ends in the
@@ -120,25 +120,25 @@ class TEXT_IMPORT_API text_source {
 
   /// The whole text from its first character on: first the sample's, then what follows, decoded
   /// as it is asked for. The text can be read once: throws std::logic_error at the second call.
-  /// Keeps alive what it needs. Its refill() throws import_error where the text cannot be read any
+  /// Keeps alive what it needs. Its refill() throws ImportError where the text cannot be read any
   /// further, after all text in front of that place was delivered; damaged compressed data that
   /// were a warning at opening are an error here.
   [[nodiscard]] ostrel::io::text::stream::TextStream stream();
 
   /// What was found out at opening. Reading the stream may add warnings, nothing else.
-  [[nodiscard]] text_findings const& findings() const noexcept;
+  [[nodiscard]] TextFindings const& findings() const noexcept;
 
   /// The same counts as findings().decoding for everything that was decoded so far, so that they
   /// are those of the whole text once the stream has reached its end.
-  [[nodiscard]] decoding_counts const& decoded_so_far() const noexcept;
+  [[nodiscard]] DecodingCounts const& decoded_so_far() const noexcept;
 
   /// The path as it was given, without the member behind it; "-" for standard input.
   [[nodiscard]] std::string const& path() const noexcept;
 
  private:
-  explicit text_source(std::shared_ptr<opened_text> opened) noexcept;
+  explicit TextSource(std::shared_ptr<OpenedText> opened) noexcept;
 
-  std::shared_ptr<opened_text> opened_;
+  std::shared_ptr<OpenedText> opened_;
   bool is_streamed_ = false;
 };
 

@@ -13,7 +13,7 @@
 
 namespace textimport {
 
-enum class value_type : std::uint8_t {
+enum class ValueType : std::uint8_t {
   Empty,  ///< no value in the sample
   Integer,
   Real,
@@ -28,7 +28,7 @@ enum class value_type : std::uint8_t {
 };
 
 /// In which order the dates of a column write day, month and year.
-enum class date_order : std::uint8_t {
+enum class DateOrder : std::uint8_t {
   None,  ///< no dates, or the month is a word
   YearFirst,
   DayFirst,
@@ -37,19 +37,19 @@ enum class date_order : std::uint8_t {
 };
 
 /// The word for a type or an order in machine-readable output: "date-time", "day-first" ...
-[[nodiscard]] TEXT_IMPORT_API char const* name_of(value_type type) noexcept;
-[[nodiscard]] TEXT_IMPORT_API char const* name_of(date_order order) noexcept;
+[[nodiscard]] TEXT_IMPORT_API char const* name_of(ValueType type) noexcept;
+[[nodiscard]] TEXT_IMPORT_API char const* name_of(DateOrder order) noexcept;
 
 /// Where a column of fixed width lies in a line, from 0 up to, not including, the end.
-struct column_extent {
+struct ColumnExtent {
   std::size_t begin = 0;
   std::size_t end = 0;
 };
 
 /// One column of the data. Counts are of the sampled records.
-struct column_findings {
+struct ColumnFindings {
   std::u16string name;  ///< from the line of names; empty when there is none
-  value_type type = value_type::Empty;
+  ValueType type = ValueType::Empty;
   std::size_t values = 0;   ///< fields that hold a value: not empty, no missing-value word
   std::size_t fitting = 0;  ///< of these, those of the type
   std::size_t empty = 0;    ///< fields that are empty
@@ -57,15 +57,15 @@ struct column_findings {
   std::vector<std::u16string> missing_words;
   char16_t decimal_mark = 0;    ///< in the values, 0 when there is none
   char16_t thousands_mark = 0;  ///< likewise
-  date_order order = date_order::None;
+  DateOrder order = DateOrder::None;
   /// Whole numbers with zeros in front, such as postal codes: to be kept as text.
   bool leading_zeros = false;
   bool quoted = false;            ///< every value stands in quotes
   std::size_t longest_value = 0;  ///< in characters (code points), quotes not counted
   /// Of fixed-width columns: the extent in code points, and in bytes of the file where every
   /// sampled line agrees on it.
-  std::optional<column_extent> characters;
-  std::optional<column_extent> bytes;
+  std::optional<ColumnExtent> characters;
+  std::optional<ColumnExtent> bytes;
 };
 
 }  // namespace textimport

@@ -6,95 +6,95 @@
 
 namespace textimport {
 
-table_layout layout_of(textio::enums::StrategyMode const mode) noexcept {
+Layout layout_of(textio::enums::StrategyMode const mode) noexcept {
   switch (mode) {
     case textio::enums::StrategyMode::Delimited:
-      return table_layout::Delimited;
+      return Layout::Delimited;
     case textio::enums::StrategyMode::SpaceAligned:
-      return table_layout::SpaceAligned;
+      return Layout::SpaceAligned;
     case textio::enums::StrategyMode::FixedWidth:
-      return table_layout::FixedWidth;
+      return Layout::FixedWidth;
     case textio::enums::StrategyMode::LineReader:
       break;
   }
-  return table_layout::Lines;
+  return Layout::Lines;
 }
 
-char const* name_of(table_layout const layout) noexcept {
+char const* name_of(Layout const layout) noexcept {
   switch (layout) {
-    case table_layout::Delimited:
+    case Layout::Delimited:
       return "delimited";
-    case table_layout::SpaceAligned:
+    case Layout::SpaceAligned:
       return "space-aligned";
-    case table_layout::FixedWidth:
+    case Layout::FixedWidth:
       return "fixed-width";
-    case table_layout::Lines:
+    case Layout::Lines:
       break;
   }
   return "lines";
 }
 
-char const* name_of(line_role const role) noexcept {
+char const* name_of(LineRole const role) noexcept {
   switch (role) {
-    case line_role::Title:
+    case LineRole::Title:
       return "title";
-    case line_role::Comment:
+    case LineRole::Comment:
       return "comment";
-    case line_role::Blank:
+    case LineRole::Blank:
       return "blank";
-    case line_role::Names:
+    case LineRole::Names:
       return "names";
-    case line_role::Units:
+    case LineRole::Units:
       return "units";
-    case line_role::Ruler:
+    case LineRole::Ruler:
       return "ruler";
-    case line_role::Separator:
+    case LineRole::Separator:
       return "separator";
-    case line_role::Footer:
+    case LineRole::Footer:
       break;
   }
   return "footer";
 }
 
-char const* name_of(value_type const type) noexcept {
+char const* name_of(ValueType const type) noexcept {
   switch (type) {
-    case value_type::Empty:
+    case ValueType::Empty:
       return "empty";
-    case value_type::Integer:
+    case ValueType::Integer:
       return "integer";
-    case value_type::Real:
+    case ValueType::Real:
       return "real";
-    case value_type::ComplexNumber:
+    case ValueType::ComplexNumber:
       return "complex";
-    case value_type::Boolean:
+    case ValueType::Boolean:
       return "boolean";
-    case value_type::Date:
+    case ValueType::Date:
       return "date";
-    case value_type::DateTime:
+    case ValueType::DateTime:
       return "date-time";
-    case value_type::Duration:
+    case ValueType::Duration:
       return "duration";
-    case value_type::Hexadecimal:
+    case ValueType::Hexadecimal:
       return "hexadecimal";
-    case value_type::Binary:
+    case ValueType::Binary:
       return "binary";
-    case value_type::Text:
+    case ValueType::Text:
       break;
   }
   return "text";
 }
 
-char const* name_of(date_order const order) noexcept {
+char const* name_of(DateOrder const order) noexcept {
   switch (order) {
-    case date_order::None:
+    case DateOrder::None:
       return "none";
-    case date_order::YearFirst:
+    case DateOrder::YearFirst:
       return "year-first";
-    case date_order::DayFirst:
+    case DateOrder::DayFirst:
       return "day-first";
-    case date_order::MonthFirst:
+    case DateOrder::MonthFirst:
       return "month-first";
-    case date_order::Ambiguous:
+    case DateOrder::Ambiguous:
       break;
   }
   return "ambiguous";

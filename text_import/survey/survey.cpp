@@ -7,39 +7,39 @@
 #include <utility>
 
 #include "text_format_detection/model/field_array.hpp"
-#include "text_import/survey/columns_internal.hpp"
-#include "text_import/survey/confidence_internal.hpp"
-#include "text_import/survey/header_rows_internal.hpp"
-#include "text_import/survey/hypothesis_internal.hpp"
-#include "text_import/survey/line_roles_internal.hpp"
-#include "text_import/survey/readings_internal.hpp"
-#include "text_import/survey/sample_lines_internal.hpp"
-#include "text_import/survey/value_shape_internal.hpp"
-#include "text_import/survey/weighing_internal.hpp"
+#include "text_import/analysis/describing/columns_internal.hpp"
+#include "text_import/analysis/weighing/confidence_internal.hpp"
+#include "text_import/analysis/describing/header_rows_internal.hpp"
+#include "text_import/analysis/readings/hypothesis_internal.hpp"
+#include "text_import/analysis/describing/line_roles_internal.hpp"
+#include "text_import/analysis/readings/collecting_internal.hpp"
+#include "text_import/analysis/lines/line_index.hpp"
+#include "text_import/analysis/values/value_shape_internal.hpp"
+#include "text_import/analysis/weighing/weighing_internal.hpp"
 
 namespace textimport {
 
 namespace {
 
-using survey::hypothesis;
-using survey::reading;
-using survey::sample_lines;
+using analysis::Hypothesis;
+using analysis::Reading;
+using analysis::LineIndex;
 
 std::u16string_view text_of(textio::Field const& sample) {
   return sample.view().substr(0, sample.view().find(textio::end_mark));
 }
 
-class surveyor {
+class Surveyor {
  public:
-  surveyor(std::u16string_view const text, survey_options const& options)
+  Surveyor(std::u16string_view const text, SurveyOptions const& options)
       : options_(options), lines_(text, options.parsing.line_endings) {}
 
-  survey_findings run() {
+  SurveyFindings run() {
     hypotheses_ = propose_hypotheses(lines_, options_);
-    if (!(options_.given.layout && options_.layout == table_layout::Lines)) {
+    if (!(options_.given.layout && options_.layout == Layout::Lines)) {
       readings_ = collect_readings(lines_, hypotheses_, options_);
     }
-    survey::weighing const weighed = weigh_readings(readings_, is_bound());
+    analysis::Weighing const weighed = weigh_readings(readings_, is_bound());
     list_candidates(weighed);
     found_.winner = weighed.winner;
     found_.winner ? describe_table(readings_[*found_.winner]) : describe_lines();
@@ -53,16 +53,16 @@ class surveyor {
     return options_.given.layout || options_.given.delimiter || options_.given.widths;
   }
 
-  void list_candidates(survey::weighing const& weighed) {
+  void list_candidates(analysis::Weighing const& weighed) {
     for (std::size_t i = 0; i < readings_.size(); ++i) {
-      reading const& r = readings_[i];
+      Reading const& r = readings_[i];
       found_.candidates.push_back({hypotheses_[r.hypothesis].name, r.layout, r.delimiter,
                                    r.block.columns, r.coverage, r.soundness, weighed.fates[i].rule,
                                    weighed.fates[i].measure});
     }
   }
 
-  void describe_table(reading const& r) {
+  void describe_table(Reading const& r) {
     found_.layout = r.layout;
     found_.delimiter = r.delimiter;
     found_.quote = r.quote;
@@ -74,14 +74,14 @@ class surveyor {
       found_.data_ends_at = lines_.count();
       return;
     }
-    survey::header_rows const rows = options_.given.header_lines
+    analysis::HeaderRows const rows = options_.given.header_lines
                                          ? rows_behind(r, options_.parsing.header_lines)
                                          : find_header_rows(r);
     auto around = look_around(r, rows, lines_);
     found_.data_starts_at = around.data_starts_at;
     found_.data_ends_at = around.data_ends_at;
     found_.columns = describe_columns(r, rows);
-    if (r.layout == table_layout::FixedWidth) {
+    if (r.layout == Layout::FixedWidth) {
       place_columns(found_.columns, r.strategy->options().column_widths, lines_,
                     around.data_starts_at, around.data_ends_at, options_.encoding);
     }
@@ -92,11 +92,11 @@ class surveyor {
     }
   }
 
-  void take_surroundings(survey::surroundings&& around, std::size_t const num_records) {
+  void take_surroundings(analysis::Surroundings&& around, std::size_t const num_records) {
     bool const sees_end = !options_.goes_on && num_records < options_.records;
     if (!sees_end) {
       std::erase_if(around.lines,
-                    [&](noted_line const& noted) { return noted.line >= around.data_ends_at; });
+                    [&](NotedLine const& noted) { return noted.line >= around.data_ends_at; });
       found_.data_ends_at.reset();
     }
     found_.lines = std::move(around.lines);
@@ -106,11 +106,11 @@ class surveyor {
     }
     found_.decimal_mark = options_.given.decimal_mark
                               ? options_.parsing.decimal_separator
-                              : survey::common_decimal_mark(found_.columns, u'.');
+                              : analysis::common_decimal_mark(found_.columns, u'.');
   }
 
   /// The records from the given physical line on are the data.
-  static survey::header_rows rows_behind(reading const& r, std::size_t const header_lines) {
+  static analysis::HeaderRows rows_behind(Reading const& r, std::size_t const header_lines) {
     auto const first = std::ranges::find_if(
         r.records, [&](auto const& record) { return record.line >= header_lines; });
     std::size_t const last = r.records.size() - 1;
@@ -120,14 +120,14 @@ class surveyor {
 
   void describe_lines() {
     found_.strategy = read_lines(lines_, options_);
-    found_.quote = survey::quote_of(options_.parsing);
+    found_.quote = analysis::quote_of(options_.parsing);
     std::size_t const first = first_line();
-    auto column = survey::describe_lines(lines_, first);
+    auto column = analysis::describe_lines(lines_, first);
     found_.data_starts_at = first;
     if (first > 0 && !options_.given.header_lines) {
       found_.has_names = true;
-      column.name = survey::unquoted(lines_[0], found_.quote);
-      found_.lines.push_back({0, line_role::Names});
+      column.name = analysis::unquoted(lines_[0], found_.quote);
+      found_.lines.push_back({0, LineRole::Names});
     }
     found_.columns.push_back(std::move(column));
     if (!options_.goes_on) {
@@ -144,9 +144,9 @@ class surveyor {
       return 0;
     }
     auto const is_value = [&](std::size_t const line) {
-      return is_typed(survey::look_at(lines_[line], survey::quote_of(options_.parsing)).shape);
+      return is_typed(analysis::look_at(lines_[line], analysis::quote_of(options_.parsing)).shape);
     };
-    bool const has_values = survey::describe_lines(lines_, 1).type != value_type::Text;
+    bool const has_values = analysis::describe_lines(lines_, 1).type != ValueType::Text;
     return has_values && !is_value(0) ? 1 : 0;
   }
 
@@ -162,7 +162,7 @@ class surveyor {
       return;
     }
     found_.confidence = confidence_of_table(readings_, *found_.winner);
-    found_.decided = found_.confidence >= survey::decided_from;
+    found_.decided = found_.confidence >= analysis::decided_from;
     found_.reason = found_.decided ? "one reading as a table is left"
                                    : "too little speaks for the best reading as a table";
     found_.runner_up = find_runner_up(readings_, *found_.winner);
@@ -172,17 +172,17 @@ class surveyor {
     }
   }
 
-  survey_options const& options_;
-  sample_lines lines_;
-  std::vector<hypothesis> hypotheses_;
-  std::vector<reading> readings_;
-  survey_findings found_;
+  SurveyOptions const& options_;
+  LineIndex lines_;
+  std::vector<Hypothesis> hypotheses_;
+  std::vector<Reading> readings_;
+  SurveyFindings found_;
 };
 
 }  // namespace
 
-survey_findings survey_text(textio::Field const& sample, survey_options const& options) {
-  return surveyor(text_of(sample), options).run();
+SurveyFindings survey_text(textio::Field const& sample, SurveyOptions const& options) {
+  return Surveyor(text_of(sample), options).run();
 }
 
 }  // namespace textimport

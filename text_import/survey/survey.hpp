@@ -23,7 +23,7 @@
 namespace textimport {
 
 /// How a text is laid out.
-enum class table_layout : std::uint8_t {
+enum class Layout : std::uint8_t {
   Delimited,
   SpaceAligned,
   FixedWidth,
@@ -31,7 +31,7 @@ enum class table_layout : std::uint8_t {
 };
 
 /// What a line is that holds no data.
-enum class line_role : std::uint8_t {
+enum class LineRole : std::uint8_t {
   Title,      ///< text above the data: a title, notes, settings
   Comment,    ///< starts with the comment marker
   Blank,      ///< empty, or blanks only
@@ -43,23 +43,23 @@ enum class line_role : std::uint8_t {
 };
 
 /// The layout of a text that is read in this mode.
-[[nodiscard]] TEXT_IMPORT_API table_layout layout_of(textio::enums::StrategyMode mode) noexcept;
+[[nodiscard]] TEXT_IMPORT_API Layout layout_of(textio::enums::StrategyMode mode) noexcept;
 
 /// The word for a layout or a role in machine-readable output: "space-aligned", "names" ...
-[[nodiscard]] TEXT_IMPORT_API char const* name_of(table_layout layout) noexcept;
-[[nodiscard]] TEXT_IMPORT_API char const* name_of(line_role role) noexcept;
+[[nodiscard]] TEXT_IMPORT_API char const* name_of(Layout layout) noexcept;
+[[nodiscard]] TEXT_IMPORT_API char const* name_of(LineRole role) noexcept;
 
 /// A line that holds no data.
-struct noted_line {
+struct NotedLine {
   std::size_t line = 0;  ///< physical line, from 0
-  line_role role = line_role::Title;
+  LineRole role = LineRole::Title;
 };
 
 /// Which parts the caller gives in the options: these stay as they are, and the rest is surveyed
 /// around them.
-struct given_parts {
+struct GivenParts {
   bool delimiter = false;     ///< options::delimiters
-  bool layout = false;        ///< survey_options::layout
+  bool layout = false;        ///< SurveyOptions::layout
   bool widths = false;        ///< options::column_widths
   bool quote = false;         ///< options::quote_characters
   bool comment = false;       ///< options::comment_style
@@ -67,12 +67,12 @@ struct given_parts {
   bool header_lines = false;  ///< options::header_lines, in physical lines
 };
 
-struct survey_options {
+struct SurveyOptions {
   /// The parts that are not given are where the survey starts from: quotes `"`, no comments.
   textio::parser::options parsing;
   ostrel::io::text::typedetection::TypeAnalyzerOptions types;
-  given_parts given;
-  table_layout layout = table_layout::Lines;  ///< read when it is given
+  GivenParts given;
+  Layout layout = Layout::Lines;  ///< read when it is given
   /// How many records are sampled; `textio::unknown_count` for all.
   std::size_t records = 250;
   /// True when the text goes on behind the sample: then its end says nothing of a footer.
@@ -82,9 +82,9 @@ struct survey_options {
 };
 
 /// One reading that was weighed.
-struct survey_candidate {
+struct SurveyCandidate {
   std::string hypothesis;  ///< what was assumed: "as given", "comment lines" ...
-  table_layout layout = table_layout::Lines;
+  Layout layout = Layout::Lines;
   std::u16string delimiter;  ///< of delimited readings
   std::size_t num_columns = 0;
   double coverage = 0;   ///< the share of the text's records that have that many fields
@@ -94,11 +94,11 @@ struct survey_candidate {
   double measure = 0;  ///< the number that this rule looks at
 };
 
-struct survey_findings {
+struct SurveyFindings {
   /// False when the answer is a guess: the caller should ask.
   bool decided = true;
   bool has_names = false;
-  table_layout layout = table_layout::Lines;
+  Layout layout = Layout::Lines;
   char16_t quote = 0;  ///< 0: no field is quoted
   char16_t decimal_mark = u'.';
   /// From 0 to 1: of the answers with this value about that share is right.
@@ -116,15 +116,15 @@ struct survey_findings {
   std::optional<std::size_t> data_ends_at;
   /// The lines above and below the data, ascending. Comment and blank lines between data are not
   /// listed.
-  std::vector<noted_line> lines;
+  std::vector<NotedLine> lines;
   /// One for each column, left to right; one for a text that is read line by line.
-  std::vector<column_findings> columns;
+  std::vector<ColumnFindings> columns;
 
   /// Reads the whole text: sampled and scored by the library, its fields views into the sample.
   std::shared_ptr<textio::GenericStrategy> strategy;
 
   /// Every reading that was weighed, in the order in which they were made.
-  std::vector<survey_candidate> candidates;
+  std::vector<SurveyCandidate> candidates;
   /// The answer's place among them; empty when each line is a value.
   std::optional<std::size_t> winner;
   /// The reading that would be the answer if there were no winner, and how sure that would be.
@@ -135,7 +135,7 @@ struct survey_findings {
 /// Surveys a sample, which ends at its length or at its first U+FFFF and outlives the findings.
 /// Deterministic. Takes time linear in the sample for each hypothesis, of which there are at most
 /// six, and for each candidate of the library. Throws std::bad_alloc.
-[[nodiscard]] TEXT_IMPORT_API survey_findings survey_text(textio::Field const& sample,
-                                                          survey_options const& options);
+[[nodiscard]] TEXT_IMPORT_API SurveyFindings survey_text(textio::Field const& sample,
+                                                          SurveyOptions const& options);
 
 }  // namespace textimport

@@ -11,13 +11,13 @@ int main(int argc, char** argv) {
     return 2;
   }
   try {
-    if (textimport::text_source::open(argv[1]).sample().empty()) {
+    if (textimport::TextSource::open(argv[1]).sample().empty()) {
       return 1;
     }
-    textimport::text_source::open("no such file");
-  } catch (textimport::import_error const& error) {
+    textimport::TextSource::open("no such file");
+  } catch (textimport::ImportError const& error) {
     std::puts("opened");
-    return error.kind() == textimport::import_error_kind::FileNotFound ? 0 : 1;
+    return error.kind() == textimport::ImportErrorKind::FileNotFound ? 0 : 1;
   }
   return 1;
 }

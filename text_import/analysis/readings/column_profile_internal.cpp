@@ -1,0 +1,187 @@
+// SPDX-License-Identifier: MIT
+#include "text_import/analysis/readings/column_profile_internal.hpp"
+
+#include <algorithm>
+
+namespace textimport::analysis {
+
+namespace {
+
+using view = std::u16string_view;
+
+// Wider lines are profiled up to here.
+constexpr std::size_t max_positions = 4096;
+
+// Signs that are a kind of their own; behind them come digits, letters and everything else.
+constexpr view kinds = u" .,-+:/|*";
+constexpr std::size_t digit_kind = kinds.size();
+constexpr std::size_t letter_kind = digit_kind + 1;
+constexpr std::size_t other_kind = digit_kind + 2;
+
+constexpr std::size_t find_kind(char16_t const c) {
+  if (c == u'\t') {
+    return 0;
+  }
+  if (std::size_t const kind = kinds.find(c); kind != view::npos) {
+    return kind;
+  }
+  bool const is_letter = (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z');
+  return c >= u'0' && c <= u'9' ? digit_kind : is_letter ? letter_kind : other_kind;
+}
+
+constexpr std::array<std::uint8_t, 128> ascii_kinds = [] {
+  std::array<std::uint8_t, 128> table{};
+  for (std::size_t c = 0; c < table.size(); ++c) {
+    table[c] = static_cast<std::uint8_t>(find_kind(static_cast<char16_t>(c)));
+  }
+  return table;
+}();
+
+/// Everything outside ASCII counts as a letter.
+std::size_t kind_of(char16_t const c) {
+  return c < ascii_kinds.size() ? ascii_kinds[c] : letter_kind;
+}
+
+view without_trailing_blanks(view const line) {
+  std::size_t const last = line.find_last_not_of(u" \t");
+  return line.substr(0, last == view::npos ? 0 : last + 1);
+}
+
+/// The median.
+std::size_t usual_length(std::vector<std::size_t> lengths) {
+  auto const middle = lengths.begin() + static_cast<std::ptrdiff_t>((lengths.size() - 1) / 2);
+  std::ranges::nth_element(lengths, middle);
+  return *middle;
+}
+
+/// The share of lengths that differ from the usual one by two at most.
+double share_of_usual(std::vector<std::size_t> const& lengths) {
+  std::size_t const usual = usual_length(lengths);
+  auto const is_usual = [&](std::size_t const n) { return n + 2 >= usual && n <= usual + 2; };
+  return static_cast<double>(std::ranges::count_if(lengths, is_usual)) /
+         static_cast<double>(lengths.size());
+}
+
+}  // namespace
+
+ColumnProfile::ColumnProfile(LineIndex const& lines, std::size_t const first,
+                               std::size_t const end) {
+  std::vector<view> filled;
+  std::vector<std::size_t> lengths;
+  std::vector<std::size_t> padded_lengths;
+  for (std::size_t i = first; i < end; ++i) {
+    view const line = without_trailing_blanks(lines[i]);
+    if (!line.empty()) {
+      filled.push_back(line.substr(0, max_positions));
+      lengths.push_back(filled.back().size());
+      padded_lengths.push_back(lines[i].size());
+    }
+  }
+  num_lines_ = filled.size();
+  if (num_lines_ == 0) {
+    return;
+  }
+  equal_lengths_ = std::max(share_of_usual(lengths), share_of_usual(padded_lengths));
+  usual_length_ = usual_length(lengths);
+  counts_.resize(*std::ranges::max_element(lengths));
+  for (view const line : filled) {
+    for (std::size_t pos = 0; pos < line.size(); ++pos) {
+      ++counts_[pos][kind_of(line[pos])];
+    }
+  }
+  std::size_t const third = usual_length_ / 3;
+  agreement_ = std::min({agreement_between(0, third), agreement_between(third, 2 * third),
+                         agreement_between(2 * third, usual_length_)});
+}
+
+double ColumnProfile::agreement_between(std::size_t const first,
+                                         std::size_t const end) const noexcept {
+  KindCounts all{};
+  double agreed = 0;
+  double total = 0;
+  for (std::size_t pos = first; pos < end; ++pos) {
+    double here = 0;
+    double squares = 0;
+    for (std::size_t kind = 0; kind < num_kinds; ++kind) {
+      double const count = counts_[pos][kind];
+      all[kind] += counts_[pos][kind];
+      here += count;
+      squares += count * count;
+    }
+    agreed += here > 0 ? squares / here : 0;
+    total += here;
+  }
+  double expected = 0;
+  for (std::uint32_t const count : all) {
+    expected += static_cast<double>(count) * static_cast<double>(count) / std::max(total, 1.0);
+  }
+  return total - expected < 1e-6 * total || total == 0 ? 0
+                                                       : (agreed - expected) / (total - expected);
+}
+
+bool ColumnProfile::is_blank_at(std::size_t const position) const noexcept {
+  KindCounts const& counts = counts_[position];
+  std::uint32_t filled = 0;
+  for (std::size_t kind = 1; kind < num_kinds; ++kind) {
+    filled += counts[kind];
+  }
+  return std::size_t{filled} * 50 <= num_lines_;
+}
+
+bool ColumnProfile::fits(view const line) const noexcept {
+  view const text = without_trailing_blanks(line).substr(0, counts_.size());
+  std::size_t rare = 0;
+  for (std::size_t pos = 0; pos < text.size(); ++pos) {
+    std::size_t const kind = kind_of(text[pos]);
+    rare += kind != 0 && std::size_t{counts_[pos][kind]} * 20 < num_lines_ ? 1U : 0U;
+  }
+  return rare * 8 <= text.size();
+}
+
+bool ColumnProfile::is_mostly_digit(std::size_t const position) const noexcept {
+  return std::size_t{counts_[position][digit_kind]} * 10 >= num_lines_ * 9;
+}
+
+std::vector<std::size_t> ColumnProfile::widths() const {
+  constexpr std::size_t long_line = 40;
+  auto widths = widths_between_blanks();
+  return widths.size() < 2 && counts_.size() >= long_line ? widths_of_touching() : widths;
+}
+
+bool ColumnProfile::has_gutters() const {
+  auto const widths = widths_between_blanks();
+  return widths.size() >= 3 && (counts_.size() - widths.back()) * 2 >= usual_length_;
+}
+
+std::vector<std::size_t> ColumnProfile::widths_of_touching() const {
+  std::vector<std::size_t> widths;
+  std::size_t start = 0;
+  for (std::size_t pos = 1; pos < counts_.size(); ++pos) {
+    if (is_mostly_digit(pos) && !is_mostly_digit(pos - 1)) {
+      widths.push_back(pos - start);
+      start = pos;
+    }
+  }
+  widths.push_back(counts_.size() - start);
+  return widths;
+}
+
+std::vector<std::size_t> ColumnProfile::widths_between_blanks() const {
+  std::vector<std::size_t> widths;
+  std::size_t start = 0;
+  bool in_column = false;  // a filled position was met since `start`
+  bool in_gap = true;
+  for (std::size_t pos = 0; pos < counts_.size(); ++pos) {
+    bool const is_blank = is_blank_at(pos);
+    if (!is_blank && in_gap && in_column) {
+      widths.push_back(pos - start);
+      start = pos;
+    }
+    in_column = in_column || !is_blank;
+    in_gap = is_blank;
+  }
+  widths.push_back(counts_.size() - start);
+  return widths;
+}
+
+}  // namespace textimport::analysis

@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: MIT
+#include "text_import/analysis/readings/hypothesis_internal.hpp"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <optional>
+
+namespace textimport::analysis {
+
+namespace {
+
+using view = std::u16string_view;
+
+constexpr std::array<view, 8> line_markers{u"#", u"%", u"//", u";", u"!", u"*", u"--", u"@"};
+
+// Enough lines to see whether something recurs.
+constexpr std::size_t lines_looked_at = 400;
+
+std::size_t num_looked_at(LineIndex const& lines) {
+  return std::min(lines.count(), lines_looked_at);
+}
+
+struct MarkedLines {
+  std::size_t count = 0;
+  std::size_t at_edges = 0;  ///< those in front of the first line without it or behind the last
+};
+
+/// The lines that start with a marker.
+MarkedLines count_marked(LineIndex const& lines, view const marker) {
+  MarkedLines marked;
+  std::size_t run = 0;  // of marked and blank lines
+  bool is_top = true;
+  for (std::size_t i = 0; i < num_looked_at(lines); ++i) {
+    if (lines[i].starts_with(marker)) {
+      ++marked.count;
+      ++run;
+    } else if (!trimmed(lines[i]).empty()) {
+      marked.at_edges += is_top ? run : 0U;
+      is_top = false;
+      run = 0;
+    }
+  }
+  marked.at_edges += run;
+  return marked;
+}
+
+/// The marker that starts most lines. Behind the top of the text, comments are the exception.
+std::optional<view> find_comment_marker(LineIndex const& lines) {
+  std::optional<view> best;
+  std::size_t most = 0;
+  for (view const marker : line_markers) {
+    MarkedLines const marked = count_marked(lines, marker);
+    std::size_t const others = num_looked_at(lines) - marked.count;
+    if (marked.count > most && others >= 2 && marked.count - marked.at_edges <= (others + 1) / 2) {
+      best = marker;
+      most = marked.count;
+    }
+  }
+  return best;
+}
+
+/// Quotes that an odd number of lines hold an odd number of: one of them does not close where
+/// quotes in a table do.
+bool has_odd_quotes(LineIndex const& lines, char16_t const quote) {
+  for (std::size_t i = 0; i < num_looked_at(lines); ++i) {
+    if (std::ranges::count(lines[i], quote) % 2 != 0) {
+      return true;
+    }
+  }
+  return false;
+}
+
+/// An apostrophe that opens a field: at a line's start or behind a delimiter, and closed in the
+/// same manner later in the line.
+bool opens_and_closes(view const line, char16_t const quote) {
+  constexpr view around = u",;\t| ";
+  for (std::size_t pos = line.find(quote); pos != view::npos; pos = line.find(quote, pos + 1)) {
+    bool const opens = pos == 0 || around.find(line[pos - 1]) != view::npos;
+    std::size_t const close = line.find(quote, pos + 1);
+    if (opens && close != view::npos) {
+      return close + 1 == line.size() || around.find(line[close + 1]) != view::npos;
+    }
+  }
+  return false;
+}
+
+bool has_apostrophe_quotes(LineIndex const& lines) {
+  std::size_t found = 0;
+  for (std::size_t i = 0; i < num_looked_at(lines); ++i) {
+    found += opens_and_closes(lines[i], u'\'') ? 1U : 0U;
+  }
+  return found * 4 >= num_looked_at(lines) && found > 0;
+}
+
+/// The marker of comment lines or the two of block comments; empty for neither.
+std::vector<std::u16string> find_comment_style(LineIndex const& lines) {
+  for (std::size_t i = 0; i < num_looked_at(lines); ++i) {
+    if (lines[i].starts_with(u"/*") && lines.text().find(u"*/") != view::npos) {
+      return {u"/*", u"*/"};
+    }
+  }
+  auto const marker = find_comment_marker(lines);
+  return marker ? std::vector{std::u16string(*marker)} : std::vector<std::u16string>();
+}
+
+/// Each hypothesis once more, with comments.
+void add_comments(std::vector<Hypothesis>& hypotheses, std::vector<std::u16string> const& style) {
+  if (style.empty()) {
+    return;
+  }
+  std::string const marker(style.front().begin(), style.front().end());
+  std::size_t const without = hypotheses.size();
+  for (std::size_t i = 0; i < without; ++i) {
+    Hypothesis with = hypotheses[i];
+    with.name += ", comments start with " + marker;
+    with.parsing.comment_style = style;
+    hypotheses.push_back(std::move(with));
+  }
+}
+
+}  // namespace
+
+std::vector<Hypothesis> propose_hypotheses(LineIndex const& lines,
+                                           SurveyOptions const& options) {
+  std::vector<Hypothesis> hypotheses{{"as given", options.parsing}};
+  if (!options.given.decimal_mark) {
+    hypotheses.front().parsing.decimal_separator = u'.';  // which delimits next to nothing
+  }
+  char16_t const quote = quote_of(options.parsing);
+  if (!options.given.quote) {
+    if (quote != 0 && has_odd_quotes(lines, quote)) {
+      hypotheses.push_back({"quotes are ordinary characters", hypotheses.front().parsing});
+      hypotheses.back().parsing.quote_characters.clear();
+    }
+    if (quote != u'\'' && has_apostrophe_quotes(lines)) {
+      hypotheses.push_back({"apostrophes are quotes", hypotheses.front().parsing});
+      hypotheses.back().parsing.quote_characters = u"'";
+    }
+  }
+  if (!options.given.comment) {
+    add_comments(hypotheses, find_comment_style(lines));
+  }
+  return hypotheses;
+}
+
+}  // namespace textimport::analysis

@@ -1,0 +1,240 @@
+// SPDX-License-Identifier: MIT
+#include "text_import/analysis/readings/reading_internal.hpp"
+
+#include <algorithm>
+#include <map>
+
+#include "text_import/analysis/readings/hypothesis_internal.hpp"
+#include "text_import/analysis/values/value_shape_internal.hpp"
+
+namespace textimport::analysis {
+
+namespace {
+
+using textio::Field;
+using textio::FieldArray;
+
+/// Finds the lines of the records. A record without fields takes the line behind the one before.
+void place_records(Reading& r, LineIndex const& lines) {
+  FieldArray const& fields = *r.strategy->field_array();
+  char16_t const* const text = lines.text().data();
+  std::size_t next_line = 0;
+  r.records.reserve(fields.num_records());
+  for (std::size_t i = 0; i < fields.num_records(); ++i) {
+    auto const record = fields.record(i);
+    std::size_t line = next_line;
+    std::size_t last_line = line;
+    if (!record.empty()) {
+      Field const& last = record.back();
+      line = lines.line_at(static_cast<std::size_t>(record.front().data() - text));
+      last_line = lines.line_at(static_cast<std::size_t>(last.data() - text) + last.length());
+      r.longest_record = std::max(r.longest_record, last_line - line + 1);
+    }
+    bool const is_blank =
+        record.empty() || (record.size() == 1 && trimmed(record[0].view()).empty());
+    r.records.push_back({line, is_blank ? 0 : record.size()});
+    r.filled_records += is_blank ? 0U : 1U;
+    next_line = last_line + 1;
+  }
+}
+
+/// The stretch of records with the largest surplus of regular over irregular ones.
+TableBlock best_block(std::vector<RecordPlace> const& records, std::size_t const columns) {
+  TableBlock best;
+  TableBlock current;
+  std::ptrdiff_t best_surplus = 0;
+  for (std::size_t i = 0; i < records.size(); ++i) {
+    std::size_t const count = records[i].num_fields;
+    if (count == columns) {
+      if (current.regular == 0) {
+        current = {i, i, columns, 0, 0};
+      }
+      ++current.regular;
+      current.last = i;
+      auto const surplus = static_cast<std::ptrdiff_t>(current.regular - current.irregular);
+      if (surplus > best_surplus) {
+        best = current;
+        best_surplus = surplus;
+      }
+    } else if (count != 0 && current.regular != 0 && ++current.irregular >= current.regular) {
+      current = {};
+    }
+  }
+  return best;
+}
+
+/// Of two blocks that are equally large the first in the text is better, unless they are so small
+/// that it may be a line of names.
+bool is_better(TableBlock const& block, TableBlock const& best) {
+  auto const surplus = [](TableBlock const& b) { return b.regular - b.irregular; };
+  bool const is_small = block.regular < 3;
+  return surplus(block) > surplus(best) ||
+         (surplus(block) == surplus(best) && (is_small || block.first < best.first));
+}
+
+/// The best block of all numbers of fields; of those that reach the end of the records, where
+/// `at_end` asks for that.
+TableBlock find_block(std::vector<RecordPlace> const& records, bool const at_end) {
+  std::map<std::size_t, std::size_t> frequencies;
+  for (RecordPlace const& record : records) {
+    ++frequencies[record.num_fields];
+  }
+  TableBlock best;
+  for (auto const& [columns, frequency] : frequencies) {
+    if (columns < 2 || frequency < best.regular) {
+      continue;
+    }
+    TableBlock const block = best_block(records, columns);
+    bool const is_candidate = !at_end || block.last + 1 == records.size();
+    if (is_candidate && is_better(block, best)) {
+      best = block;
+    }
+  }
+  return best;
+}
+
+void set_block(Reading& r, TableBlock const& block) {
+  r.block = block;
+  if (block.regular > 0) {
+    auto const regular = static_cast<double>(block.regular);
+    r.coverage = regular / static_cast<double>(r.filled_records);
+    r.regularity = regular / static_cast<double>(block.regular + block.irregular);
+  }
+}
+
+/// A line that fits the columns has all of them, whatever its length; another is no record of them.
+void count_fitting_lines(Reading& r, LineIndex const& lines, ColumnProfile const& profile) {
+  std::size_t const columns = r.strategy->options().column_widths.size();
+  for (RecordPlace& record : r.records) {
+    if (record.num_fields > 0) {
+      record.num_fields = profile.fits(lines[record.line]) ? columns : 1;
+    }
+  }
+}
+
+double weight_of(ValueLook const& look) noexcept {
+  if (look.quoted || is_typed(look.shape)) {
+    return 1.0;
+  }
+  switch (look.shape) {
+    case ValueShape::Missing:
+      return 0.9;
+    case ValueShape::Word:
+      return 0.8;
+    case ValueShape::Phrase:
+      return 0.6;
+    default:
+      return 0.0;
+  }
+}
+
+// Enough values to judge a reading by; what the rest would add is not worth its time.
+constexpr std::size_t records_judged = 60;
+constexpr std::size_t columns_judged = 40;
+
+/// Looks at the values of a reading and sets what is measured of them.
+class ValueCount {
+ public:
+  explicit ValueCount(Reading& r)
+      : reading_(r), columns_(std::min(r.block.columns, columns_judged)) {}
+
+  void run() {
+    std::size_t const step = 1 + reading_.block.regular / records_judged;
+    std::size_t regular = 0;
+    for (std::size_t i = reading_.block.first; i <= reading_.block.last; ++i) {
+      if (i < reading_.records.size() && reading_.records[i].num_fields == reading_.block.columns &&
+          regular++ % step == 0) {
+        add_record(i, regular == 1 && reading_.block.regular > 2);
+      }
+    }
+    set_shares();
+  }
+
+ private:
+  struct ColumnCount {
+    std::size_t filled = 0;
+    std::size_t typed = 0;
+    std::size_t names = 0;  // texts in the first record
+  };
+
+  void add_record(std::size_t const i, bool const may_be_names) {
+    auto const record = reading_.strategy->field_array()->record(i);
+    for (std::size_t column = 0; column < std::min(columns_.size(), record.size()); ++column) {
+      add(columns_[column], look_at(record[column].view(), reading_.quote), may_be_names);
+    }
+  }
+
+  void add(ColumnCount& column, ValueLook const& look, bool const may_be_name) {
+    ++looked_at_;
+    if (look.shape == ValueShape::Empty) {
+      return;
+    }
+    bool const is_value = is_typed(look.shape) || look.shape == ValueShape::Missing;
+    ++filled_;
+    weights_ += weight_of(look);
+    broken_ += look.shape == ValueShape::Broken ? 1U : 0U;
+    ++column.filled;
+    column.typed += is_value ? 1U : 0U;
+    column.names += may_be_name && !is_value ? 1U : 0U;
+  }
+
+  void set_shares() {
+    std::size_t typed = 0;
+    for (ColumnCount const& column : columns_) {
+      typed += column.typed;
+      reading_.filled_columns += column.filled > 0 ? 1U : 0U;
+      bool const is_typed_column =
+          column.typed > 0 && column.typed * 5 >= (column.filled - column.names) * 4;
+      reading_.typed_columns += is_typed_column ? 1U : 0U;
+    }
+    if (filled_ > 0) {
+      auto const filled = static_cast<double>(filled_);
+      reading_.empty_share = 1 - filled / static_cast<double>(looked_at_);
+      reading_.soundness = weights_ / filled;
+      reading_.broken_share = static_cast<double>(broken_) / filled;
+      reading_.typed_share = static_cast<double>(typed) / filled;
+    }
+  }
+
+  Reading& reading_;
+  std::vector<ColumnCount> columns_;
+  std::size_t looked_at_ = 0;
+  std::size_t filled_ = 0;
+  std::size_t broken_ = 0;
+  double weights_ = 0;
+};
+
+}  // namespace
+
+Reading measure_records(std::shared_ptr<textio::GenericStrategy> strategy,
+                        LineIndex const& lines, ColumnProfile const* const profile) {
+  Reading r;
+  r.strategy = std::move(strategy);
+  r.layout = layout_of(r.strategy->mode());
+  if (r.layout == Layout::Delimited && !r.strategy->options().delimiters.empty()) {
+    r.delimiter = r.strategy->options().delimiters.front();
+  }
+  r.quote = quote_of(r.strategy->options());
+  place_records(r, lines);
+  if (profile != nullptr) {
+    count_fitting_lines(r, lines, *profile);
+  }
+  set_block(r, find_block(r.records, false));
+  return r;
+}
+
+std::optional<Reading> measure_last_block(Reading const& r) {
+  TableBlock const block = find_block(r.records, true);
+  if (block.regular < 2 || block.columns == r.block.columns) {
+    return std::nullopt;
+  }
+  Reading last = r;
+  set_block(last, block);
+  return last;
+}
+
+void measure_values(Reading& r) {
+  ValueCount(r).run();
+}
+
+}  // namespace textimport::analysis

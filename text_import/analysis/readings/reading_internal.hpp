@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+//
+// One reading of the sample: what a strategy of the library makes of it, and the survey's own
+// measures of that.
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "text_format_detection/strategies/generic_strategy.hpp"
+#include "text_import/analysis/readings/column_profile_internal.hpp"
+#include "text_import/analysis/lines/line_index.hpp"
+#include "text_import/survey/survey.hpp"
+
+namespace textimport::analysis {
+
+/// Where a record stands and how many fields it has; none for a blank or comment line.
+struct RecordPlace {
+  std::size_t line = 0;
+  std::size_t num_fields = 0;
+};
+
+/// The records from the first to the last that have the same number of fields, with as few others
+/// between them as possible: the table in the text.
+struct TableBlock {
+  std::size_t first = 0;      ///< record
+  std::size_t last = 0;       ///< record, included
+  std::size_t columns = 0;    ///< fields of a regular record
+  std::size_t regular = 0;    ///< records with that many
+  std::size_t irregular = 0;  ///< others inside, blank ones not counted
+};
+
+struct Reading {
+  std::shared_ptr<textio::GenericStrategy> strategy;
+  std::size_t hypothesis = 0;
+  Layout layout = Layout::Lines;
+  std::u16string delimiter;
+  char16_t quote = 0;
+
+  std::vector<RecordPlace> records;
+  std::size_t filled_records = 0;
+  TableBlock block;
+  double agreement = 0;     ///< of the column profile; fixed widths only
+  double coverage = 0;      ///< regular records, as a share of all filled ones
+  double regularity = 0;    ///< the same inside the block
+  double soundness = 0;     ///< how well the values hold together, 0 to 1
+  double broken_share = 0;  ///< values that a wrong cut seems to have left
+  double empty_share = 0;   ///< fields that are empty
+  double typed_share = 0;   ///< values that say more than text
+  std::size_t typed_columns = 0;
+  std::size_t filled_columns = 0;  ///< columns with a value
+  std::size_t longest_record = 1;  ///< in lines
+};
+
+/// The measures of what a strategy of the library sampled. `profile`, for fixed widths only, tells
+/// which lines belong to the table; elsewhere the number of fields does.
+[[nodiscard]] Reading measure_records(std::shared_ptr<textio::GenericStrategy> strategy,
+                                      LineIndex const& lines,
+                                      ColumnProfile const* profile = nullptr);
+
+/// The same strategy with the table at the end of the text, where that is another one than the
+/// largest: titles and notes may look like a larger table.
+[[nodiscard]] std::optional<Reading> measure_last_block(Reading const& r);
+
+/// Looks at values of the block: soundness and types. Dearer than the measures of records.
+void measure_values(Reading& r);
+
+}  // namespace textimport::analysis

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+//
+// What a single value looks like to a reader who knows nothing of its column: finer than the
+// library's column types, since a survey weighs values that the library's tests call text.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace textimport::analysis {
+
+enum class ValueShape : std::uint8_t {
+  Empty,
+  Missing,  ///< a word that stands for no value: "NA", "null", "-" ...
+  Integer,
+  Real,
+  ComplexNumber,
+  Boolean,
+  Date,
+  DateTime,
+  Duration,
+  Hexadecimal,
+  Binary,
+  Word,    ///< text without blanks
+  Phrase,  ///< text with blanks
+  Broken,  ///< what a cut at the wrong place leaves: an odd quote, a foreign delimiter, an open
+           ///< bracket, numbers run together
+};
+
+/// The marks inside a number; 0 where there is none.
+struct NumberMarks {
+  char16_t decimal = 0;
+  char16_t thousands = 0;
+  /// "1,234" and "1.234": the comma, held as `thousands`, may as well be the decimal mark, and the
+  /// point, held as `decimal`, that of thousands.
+  bool either = false;
+};
+
+struct ValueLook {
+  ValueShape shape = ValueShape::Empty;
+  NumberMarks marks;          ///< of an integer or a real number
+  bool quoted = false;         ///< stood in quotes, which were taken off
+  bool leading_zeros = false;  ///< an integer with zeros in front: a code rather than a number
+};
+
+/// Looks at one field, blanks and one pair of quotes taken off. `quote` 0: there are no quotes.
+/// Linear in the text.
+[[nodiscard]] ValueLook look_at(std::u16string_view field, char16_t quote);
+
+/// The field without blanks around it and one pair of quotes.
+[[nodiscard]] std::u16string_view unquoted(std::u16string_view field, char16_t quote) noexcept;
+
+/// True for the shapes that say more than text: numbers, dates, booleans ...
+[[nodiscard]] constexpr bool is_typed(ValueShape const shape) noexcept {
+  return shape >= ValueShape::Integer && shape <= ValueShape::Binary;
+}
+
+[[nodiscard]] constexpr bool is_number(ValueShape const shape) noexcept {
+  return shape >= ValueShape::Integer && shape <= ValueShape::ComplexNumber;
+}
+
+}  // namespace textimport::analysis

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+//
+// The rules by which a survey narrows its readings, in the order in which they run. Each has a file
+// of its own, with its reason. What no rule leaves is read line by line.
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+#include "text_import/analysis/readings/reading_internal.hpp"
+
+namespace textimport::analysis {
+
+/// Positions in the list of readings, ascending.
+using KeptReadings = std::vector<std::size_t>;
+
+struct SurveyRule {
+  std::string_view name;
+  /// Those of `kept` that stay.
+  KeptReadings (*apply)(KeptReadings const& kept, std::vector<Reading> const& readings);
+  /// The number that the rule looks at, for people.
+  double (*measure)(Reading const& r);
+};
+
+extern SurveyRule const regular_records;  // the only one that asks for no values
+extern SurveyRule const several_columns;
+extern SurveyRule const enough_text;
+extern SurveyRule const single_blanks;
+extern SurveyRule const doubled_delimiters;
+extern SurveyRule const rare_delimiters;
+extern SurveyRule const sound_values;
+extern SurveyRule const seconds_are_no_column;
+extern SurveyRule const keys_are_no_column;
+extern SurveyRule const typed_fixed_width;
+extern SurveyRule const touching_columns;
+extern SurveyRule const best_fit;
+extern SurveyRule const usual_delimiters;
+
+/// Those of `kept` for which `keeps` holds.
+template <class Predicate>
+KeptReadings keep_if(KeptReadings const& kept, std::vector<Reading> const& readings,
+                      Predicate const keeps) {
+  KeptReadings left;
+  for (std::size_t const i : kept) {
+    if (keeps(readings[i])) {
+      left.push_back(i);
+    }
+  }
+  return left;
+}
+
+}  // namespace textimport::analysis

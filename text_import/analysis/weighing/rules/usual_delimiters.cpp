@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+//
+// Between readings that explain a text equally well the more usual delimiter decides, and then the
+// hypothesis that assumes less, which comes first.
+#include <algorithm>
+
+#include "text_import/analysis/weighing/rules/survey_rule_internal.hpp"
+
+namespace textimport::analysis {
+
+namespace {
+
+/// Smaller is more usual.
+double rank(Reading const& r) {
+  constexpr std::u16string_view order = u",\t;|";
+  if (r.layout == Layout::Delimited) {
+    auto const place =
+        r.delimiter.size() == 1 ? order.find(r.delimiter.front()) : std::u16string_view::npos;
+    return place != std::u16string_view::npos ? static_cast<double>(place)
+           : r.delimiter == u" "              ? 5
+                                              : 6;
+  }
+  return r.layout == Layout::SpaceAligned ? 4 : 7;
+}
+
+KeptReadings apply(KeptReadings const& kept, std::vector<Reading> const& readings) {
+  if (kept.empty()) {
+    return kept;
+  }
+  return {
+      *std::ranges::min_element(kept, {}, [&](std::size_t const i) { return rank(readings[i]); })};
+}
+
+}  // namespace
+
+SurveyRule const usual_delimiters{"usual_delimiters", apply, rank};
+
+}  // namespace textimport::analysis
