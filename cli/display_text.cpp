@@ -8,7 +8,7 @@
 #include <fmt/format.h>
 #include <unicode/uchar.h>
 
-#include "cli/utf.hpp"
+#include "text_import/format/utf.hpp"
 
 namespace cli {
 

@@ -7,7 +7,7 @@
 #include "cli/explain_report.hpp"
 #include "cli/json_report.hpp"
 #include "cli/survey_json.hpp"
-#include "cli/utf.hpp"
+#include "text_import/format/utf.hpp"
 #include "cli/words.hpp"
 
 namespace cli {

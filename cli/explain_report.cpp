@@ -12,7 +12,7 @@
 #include "cli/lines.hpp"
 #include "cli/reasons.hpp"
 #include "cli/survey_story.hpp"
-#include "cli/utf.hpp"
+#include "text_import/format/utf.hpp"
 #include "cli/words.hpp"
 #include "text_import/import_error.hpp"
 

@@ -7,7 +7,7 @@
 #include <limits>
 #include <set>
 
-#include "cli/utf.hpp"
+#include "text_import/format/utf.hpp"
 #include "text_format_detection/detection/strategy_selector.hpp"
 
 namespace cli {

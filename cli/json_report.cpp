@@ -9,7 +9,7 @@
 
 #include "cli/report_parts.hpp"
 #include "cli/survey_json.hpp"
-#include "cli/utf.hpp"
+#include "text_import/format/utf.hpp"
 #include "cli/words.hpp"
 
 namespace cli {

@@ -12,7 +12,7 @@
 
 #include "cli/display_text.hpp"
 #include "cli/usage_error.hpp"
-#include "cli/utf.hpp"
+#include "text_import/format/utf.hpp"
 #include "text_format_detection/model/options.hpp"
 
 namespace cli {

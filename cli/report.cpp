@@ -9,7 +9,7 @@
 #include "cli/preview.hpp"
 #include "cli/survey_report.hpp"
 #include "cli/table.hpp"
-#include "cli/utf.hpp"
+#include "text_import/format/utf.hpp"
 #include "cli/words.hpp"
 #include "text_import/import_error.hpp"
 

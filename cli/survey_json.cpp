@@ -6,7 +6,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "cli/utf.hpp"
+#include "text_import/format/utf.hpp"
 
 namespace cli {
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-namespace cli {
+namespace textimport {
 
 /// The character at `pos`, which moves behind it. A lone surrogate comes back as itself.
 [[nodiscard]] char32_t next_character(std::u16string_view text, std::size_t& pos);
@@ -25,4 +25,4 @@ void append_utf8(std::string& bytes, char32_t c);
 /// UTF-8 to UTF-16; nothing when the bytes are no UTF-8.
 [[nodiscard]] std::optional<std::u16string> from_utf8(std::string_view bytes);
 
-}  // namespace cli
+}  // namespace textimport

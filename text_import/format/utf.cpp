@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 
-#include "cli/utf.hpp"
+#include "text_import/format/utf.hpp"
 
 #include <cstdint>
 
 #include <unicode/ustring.h>
 
-namespace cli {
+namespace textimport {
 
 char32_t next_character(std::u16string_view const text, std::size_t& pos) {
   char32_t const lead = text[pos++];
@@ -60,4 +60,4 @@ std::optional<std::u16string> from_utf8(std::string_view const bytes) {
   return text;
 }
 
-}  // namespace cli
+}  // namespace textimport

@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+//
+// What an analysis noticed on its way to the Format: hypotheses, readings that were weighed, rules,
+// the roles of lines, counts. Enumerations and flags; sentences are made of them in report/.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "text_import/format/format.hpp"
+
+namespace textimport {
+
+/// What is assumed of a text before it is read.
+struct Hypothesis {
+  bool quotes_are_ordinary = false;  ///< quotes belong to the values
+  bool apostrophes_quote = false;    ///< apostrophes are the quotes
+  std::vector<std::u16string> comment_markers;  ///< guessed ones, as CommentFormat::markers
+
+  friend bool operator==(Hypothesis const&, Hypothesis const&) = default;
+};
+
+/// A rule at which readings fall. Both texts are constants.
+struct RuleText {
+  std::string_view name;     ///< "enough_text"
+  std::string_view meaning;  ///< what it demands, and which number it looks at
+};
+
+/// One reading that was weighed.
+struct Candidate {
+  std::size_t hypothesis = 0;  ///< position in Evidence::hypotheses
+  Layout layout = Layout::Lines;
+  std::u16string delimiter;  ///< of delimited readings
+  std::size_t num_columns = 0;
+  double coverage = 0;   ///< the share of the text's records that have that many fields
+  double soundness = 0;  ///< how well its values hold together, 0 to 1
+  /// The rule at which it fell, as a position in Evidence::rules; empty for the answer.
+  std::optional<std::size_t> rule;
+  double measure = 0;  ///< the number that this rule looks at
+};
+
+/// What a line is.
+enum class LineRole : std::uint8_t {
+  Title,      ///< text above the data: a title, notes, settings
+  Comment,    ///< starts with the comment marker
+  Blank,      ///< empty, or blanks only
+  Names,      ///< the names of the columns
+  Units,      ///< between the names and the data: units, types, a second line of names
+  Ruler,      ///< a line of dashes or the like
+  Separator,  ///< "sep=;", with which a spreadsheet names its delimiter
+  Group,      ///< a heading within the table
+  Data,
+  Total,   ///< the sum of other rows
+  Note,    ///< a remark below the data that belongs to them
+  Footer,  ///< text below the data
+};
+
+/// A line with its role.
+struct NotedLine {
+  std::size_t line = 0;  ///< physical line, from 0
+  LineRole role = LineRole::Title;
+
+  friend bool operator==(NotedLine const&, NotedLine const&) = default;
+};
+
+/// Counts of one column, in the sampled records of the data.
+struct ColumnEvidence {
+  std::size_t values = 0;         ///< fields that hold a value: not empty, no word for missing
+  std::size_t fitting = 0;        ///< of these, those of the type
+  std::size_t empty = 0;          ///< fields that are empty
+  std::size_t longest_value = 0;  ///< in characters (code points), quotes not counted
+};
+
+/// Why the answer is what it is.
+enum class Reason : std::uint8_t {
+  NoRecords,       ///< the text holds nothing but blanks, or nothing at all
+  Given,           ///< the caller said how the lines are split
+  OnlyReading,     ///< one reading as a table was made, and it holds
+  BestReading,     ///< one of several readings as a table is left
+  NoTable,         ///< no reading as a table holds: each line is a value
+  EngineDecided,   ///< the engine's own decision was asked for
+  Unsure,          ///< not decided: too little speaks for the best reading
+  ColumnsDiffer,   ///< not decided: the caller expects another number of columns
+  LayoutNotFound,  ///< not decided: nothing splits the lines as the given layout asks for
+  StartNotFound,   ///< not decided: no line is the one behind which the data should begin
+};
+
+/// How sure parts of the answer are, from 0 to 1: of the answers with such a value about that share
+/// is right. Empty where nothing is said yet.
+struct Certainty {
+  double layout = 0;
+  /// First and last line, and names.
+  std::optional<double> table;
+  /// The types, column by column.
+  std::vector<double> columns;
+};
+
+/// The reading that would be the answer if there were no winner.
+struct RunnerUp {
+  std::size_t candidate = 0;  ///< position in Evidence::candidates
+  double certainty = 0;
+};
+
+struct Evidence {
+  std::vector<Hypothesis> hypotheses;  ///< in the order in which they were tried
+  std::vector<RuleText> rules;         ///< in the order in which they ran
+  std::vector<Candidate> candidates;   ///< in the order in which they were made
+  std::optional<std::size_t> winner;   ///< empty when each line is a value
+  std::optional<RunnerUp> runner_up;
+
+  /// The lines above and below the data, ascending.
+  std::vector<NotedLine> lines;
+  std::vector<ColumnEvidence> columns;  ///< one for each column of the Format
+
+  std::size_t lines_seen = 0;       ///< physical lines of the sample
+  std::size_t records_sampled = 0;  ///< lines above the data are among them
+  bool goes_on = false;             ///< the text goes on behind the sample
+  /// Fixed-width layouts that were given: the largest number of code units of a line of data that
+  /// the widths leave over at its end.
+  std::size_t units_left_over = 0;
+  /// Names that stand more than once, each once; names that are empty are not among them.
+  std::vector<std::u16string> repeated_names;
+};
+
+/// A rule of the request that a record breaks.
+enum class BrokenRule : std::uint8_t {
+  ConsecutiveDelimiters,
+  LeadingDelimiters,
+  TrailingDelimiters,
+  EmptyLine,
+  PartialField,
+};
+
+/// A place in a text, each part from 0. The column counts UTF-16 code units in the line.
+struct Position {
+  std::size_t offset = 0;  ///< in UTF-16 code units from the start of the text
+  std::size_t line = 0;
+  std::size_t column = 0;
+
+  friend bool operator==(Position const&, Position const&) = default;
+};
+
+struct Violation {
+  BrokenRule rule = BrokenRule::ConsecutiveDelimiters;
+  Position position;
+};
+
+}  // namespace textimport
