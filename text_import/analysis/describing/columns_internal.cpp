@@ -17,6 +17,14 @@ using view = std::u16string_view;
 
 constexpr std::size_t num_shapes = static_cast<std::size_t>(ValueShape::Broken) + 1;
 
+bool is_number(ValueType const type) {
+  return type == ValueType::Integer || type == ValueType::Real || type == ValueType::Complex;
+}
+
+bool is_date(ValueType const type) {
+  return type == ValueType::Date || type == ValueType::DateTime;
+}
+
 /// What the values of one column have in common, value by value.
 class ColumnSummary {
  public:
@@ -24,18 +32,18 @@ class ColumnSummary {
     ValueLook const look = look_at(field, quote);
     view const text = unquoted(field, quote);
     if (look.shape == ValueShape::Empty) {
-      ++findings_.empty;
+      ++counts_.empty;
       return;
     }
     if (look.shape == ValueShape::Missing) {
       add_missing_word(text);
       return;
     }
-    ++findings_.values;
+    ++counts_.values;
     ++shapes_[static_cast<std::size_t>(look.shape)];
     quoted_ += look.quoted ? 1U : 0U;
-    findings_.longest_value = std::max(findings_.longest_value, count_characters(text));
-    findings_.leading_zeros = findings_.leading_zeros || look.leading_zeros;
+    counts_.longest_value = std::max(counts_.longest_value, count_characters(text));
+    column_.leading_zeros = column_.leading_zeros || look.leading_zeros;
     add_marks(look.marks);
     if (look.shape == ValueShape::Date || look.shape == ValueShape::DateTime) {
       order_.add(text);
@@ -44,32 +52,29 @@ class ColumnSummary {
 
   [[nodiscard]] bool has_decimal_comma() const { return commas_ > 0; }
 
-  /// `has_decimal_comma`: of any column of the table.
-  ColumnFindings finish(bool const has_decimal_comma) {
-    findings_.quoted = findings_.values > 0 && quoted_ == findings_.values;
+  /// `has_decimal_comma`: of any column of the table. `given` is a column whose type and marks hold
+  /// whatever the values say, null for none.
+  DescribedColumn finish(bool const has_decimal_comma, Column const* const given) {
+    column_.quoted = counts_.values > 0 && quoted_ == counts_.values;
     settle_marks(has_decimal_comma);
-    settle_type();
-    bool const is_number = findings_.type == ValueType::Integer ||
-                           findings_.type == ValueType::Real ||
-                           findings_.type == ValueType::ComplexNumber;
-    if (!is_number) {
-      findings_.decimal_mark = 0;
-      findings_.thousands_mark = 0;
-    }
-    if (findings_.type == ValueType::Integer && findings_.leading_zeros) {
-      findings_.type = ValueType::Text;  // a code: as a number it would lose its zeros
+    if (given != nullptr) {
+      take_given(*given);
     } else {
-      findings_.leading_zeros = false;
+      settle_type();
+      settle_leading_zeros();
     }
-    bool const is_date =
-        findings_.type == ValueType::Date || findings_.type == ValueType::DateTime;
-    findings_.order = is_date ? order_.order() : DateOrder::None;
-    return std::move(findings_);
+    if (!is_number(column_.type)) {
+      column_.numbers = {};
+    }
+    if (is_date(column_.type) && given == nullptr) {
+      column_.dates.order = order_.order();
+    }
+    return {std::move(column_), counts_};
   }
 
  private:
   void add_missing_word(view const word) {
-    auto& words = findings_.missing_words;
+    auto& words = column_.missing_words;
     if (std::ranges::find(words, word) == words.end()) {
       words.emplace_back(word);
     }
@@ -83,7 +88,7 @@ class ColumnSummary {
     points_ += marks.decimal == u'.' ? 1U : 0U;
     commas_ += marks.decimal == u',' ? 1U : 0U;
     if (marks.thousands != 0) {
-      findings_.thousands_mark = marks.thousands;
+      column_.numbers.thousands_mark = marks.thousands;
     }
   }
 
@@ -96,19 +101,19 @@ class ColumnSummary {
   /// unless another column shows that the decimal mark is the comma.
   void settle_marks(bool const has_decimal_comma) {
     if (commas_ > points_) {
-      findings_.decimal_mark = u',';
+      column_.numbers.decimal_mark = u',';
       move_shapes(ValueShape::Integer, ValueShape::Real, either_commas_);
     } else if (either_commas_ > 0) {
-      findings_.thousands_mark = u',';
+      column_.numbers.thousands_mark = u',';
     }
     if (either_points_ == 0 && points_ == 0) {
       return;
     }
     if (points_ == 0 && has_decimal_comma) {
-      findings_.thousands_mark = u'.';
+      column_.numbers.thousands_mark = u'.';
       move_shapes(ValueShape::Real, ValueShape::Integer, either_points_);
     } else if (commas_ <= points_) {
-      findings_.decimal_mark = u'.';
+      column_.numbers.decimal_mark = u'.';
     }
   }
 
@@ -116,39 +121,76 @@ class ColumnSummary {
     return shapes_[static_cast<std::size_t>(shape)];
   }
 
-  /// The narrowest type that nearly all values fit.
-  void settle_type() {
-    if (findings_.values == 0) {
-      return;
-    }
+  /// How many values are of the type.
+  [[nodiscard]] std::size_t count_fitting(ValueType const type) const {
     std::size_t const integers = count(ValueShape::Integer);
     std::size_t const reals = integers + count(ValueShape::Real);
-    std::size_t const dates = count(ValueShape::Date);
-
-    struct Choice {
-      ValueType type;
-      std::size_t fitting;
-    };
-
-    std::array const choices{
-        Choice{ValueType::Integer, integers},
-        Choice{ValueType::Real, reals},
-        Choice{ValueType::ComplexNumber, reals + count(ValueShape::ComplexNumber)},
-        Choice{ValueType::Boolean, count(ValueShape::Boolean)},
-        Choice{ValueType::Date, dates},
-        Choice{ValueType::DateTime, dates + count(ValueShape::DateTime)},
-        Choice{ValueType::Duration, count(ValueShape::Duration)},
-        Choice{ValueType::Hexadecimal, count(ValueShape::Hexadecimal)},
-        Choice{ValueType::Binary, count(ValueShape::Binary)}};
-    auto const nearly_all = [&](Choice const& c) {
-      return c.fitting * 20 >= findings_.values * 19;
-    };
-    auto const found = std::ranges::find_if(choices, nearly_all);
-    findings_.type = found != choices.end() ? found->type : ValueType::Text;
-    findings_.fitting = found != choices.end() ? found->fitting : findings_.values;
+    switch (type) {
+      case ValueType::Integer:
+        return integers;
+      case ValueType::Real:
+        return reals;
+      case ValueType::Complex:
+        return reals + count(ValueShape::ComplexNumber);
+      case ValueType::Boolean:
+        return count(ValueShape::Boolean);
+      case ValueType::Date:
+        return count(ValueShape::Date);
+      case ValueType::DateTime:
+        return count(ValueShape::Date) + count(ValueShape::DateTime);
+      case ValueType::Time:
+      case ValueType::Duration:
+        return count(ValueShape::Duration);
+      case ValueType::Hexadecimal:
+        return count(ValueShape::Hexadecimal);
+      case ValueType::Binary:
+        return count(ValueShape::Binary);
+      case ValueType::Empty:
+        return 0;
+      case ValueType::Text:
+        break;
+    }
+    return counts_.values;
   }
 
-  ColumnFindings findings_;
+  /// The narrowest type that nearly all values fit.
+  void settle_type() {
+    if (counts_.values == 0) {
+      return;
+    }
+    constexpr std::array narrow{ValueType::Integer,     ValueType::Real,    ValueType::Complex,
+                                ValueType::Boolean,     ValueType::Date,    ValueType::DateTime,
+                                ValueType::Duration,    ValueType::Hexadecimal,
+                                ValueType::Binary};
+    auto const nearly_all = [&](ValueType const type) {
+      return count_fitting(type) * 20 >= counts_.values * 19;
+    };
+    auto const* const found = std::ranges::find_if(narrow, nearly_all);
+    column_.type = found != narrow.end() ? *found : ValueType::Text;
+    counts_.fitting = count_fitting(column_.type);
+  }
+
+  /// A code is text: as a number it would lose its zeros.
+  void settle_leading_zeros() {
+    if (column_.type == ValueType::Integer && column_.leading_zeros) {
+      column_.type = ValueType::Text;
+    } else {
+      column_.leading_zeros = false;
+    }
+  }
+
+  void take_given(Column const& given) {
+    auto words = std::move(column_.missing_words);
+    bool const is_quoted = column_.quoted;
+    column_ = given;
+    column_.type_origin = Origin::Given;
+    column_.missing_words = std::move(words);
+    column_.quoted = is_quoted;
+    counts_.fitting = count_fitting(given.leading_zeros ? ValueType::Integer : given.type);
+  }
+
+  Column column_;
+  ColumnEvidence counts_;
   std::array<std::size_t, num_shapes> shapes_{};
   std::size_t quoted_ = 0;
   std::size_t points_ = 0;
@@ -160,7 +202,8 @@ class ColumnSummary {
 
 }  // namespace
 
-std::vector<ColumnFindings> describe_columns(Reading const& r, HeaderRows const& rows) {
+std::vector<DescribedColumn> describe_columns(Reading const& r, HeaderRows const& rows,
+                                              std::vector<Column> const& given) {
   std::vector<ColumnSummary> summaries(r.block.columns);
   auto const& fields = *r.strategy->field_array();
   for (std::size_t i = rows.first_data; i <= rows.last_data; ++i) {
@@ -173,24 +216,26 @@ std::vector<ColumnFindings> describe_columns(Reading const& r, HeaderRows const&
     }
   }
   bool const has_decimal_comma = std::ranges::any_of(summaries, &ColumnSummary::has_decimal_comma);
-  std::vector<ColumnFindings> columns;
+  bool const are_given = given.size() == summaries.size();
+  std::vector<DescribedColumn> columns;
   columns.reserve(summaries.size());
-  for (ColumnSummary& summary : summaries) {
-    columns.push_back(summary.finish(has_decimal_comma));
+  for (std::size_t i = 0; i < summaries.size(); ++i) {
+    columns.push_back(summaries[i].finish(has_decimal_comma, are_given ? &given[i] : nullptr));
   }
   return columns;
 }
 
-ColumnFindings describe_lines(LineIndex const& lines, std::size_t const first) {
+DescribedColumn describe_lines(LineIndex const& lines, std::size_t const first,
+                               std::size_t const end) {
   constexpr std::size_t enough = 1000;
   ColumnSummary summary;
-  for (std::size_t i = first; i < std::min(lines.count(), first + enough); ++i) {
+  for (std::size_t i = first; i < std::min(end, first + enough); ++i) {
     summary.add(lines[i], u'"');
   }
-  return summary.finish(summary.has_decimal_comma());
+  return summary.finish(summary.has_decimal_comma(), nullptr);
 }
 
-void place_columns(std::vector<ColumnFindings>& columns, std::vector<std::size_t> const& widths,
+void place_columns(std::vector<Column>& columns, std::vector<std::size_t> const& widths,
                    LineIndex const& lines, std::size_t const first, std::size_t const end,
                    std::string_view const encoding) {
   constexpr std::size_t lines_compared = 250;
@@ -198,21 +243,22 @@ void place_columns(std::vector<ColumnFindings>& columns, std::vector<std::size_t
   std::size_t begin = 0;
   for (std::size_t column = 0; column < std::min(columns.size(), widths.size()); ++column) {
     std::size_t const behind = begin + widths[column];
+    columns[column].code_units = Extent{begin, behind};
     columns[column].characters = extent_in_characters(lines, first, last, begin, behind);
     columns[column].bytes = extent_in_bytes(lines, first, last, begin, behind, encoding);
     begin = behind;
   }
 }
 
-char16_t common_decimal_mark(std::vector<ColumnFindings> const& columns,
-                             char16_t const otherwise) {
+char16_t common_decimal_mark(std::vector<Column> const& columns) {
   auto const count = [&](char16_t const mark) {
-    return std::ranges::count(columns, mark, &ColumnFindings::decimal_mark);
+    return std::ranges::count_if(
+        columns, [&](Column const& column) { return column.numbers.decimal_mark == mark; });
   };
   if (count(u',') > count(u'.')) {
     return u',';
   }
-  return count(u'.') > 0 ? u'.' : otherwise;
+  return count(u'.') > 0 ? u'.' : u'\0';
 }
 
 }  // namespace textimport::analysis

@@ -16,6 +16,8 @@ struct HeaderRows {
   std::size_t first_data = 0;
   std::size_t last_data = 0;
   std::optional<std::size_t> names;
+  /// The caller says that no line holds names.
+  bool has_no_names = false;
 };
 
 [[nodiscard]] HeaderRows find_header_rows(Reading const& r);

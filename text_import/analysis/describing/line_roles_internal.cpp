@@ -112,6 +112,9 @@ class RoleReader {
 
   /// The names stand in a record of the table, or in the last line above it that is no ruler.
   void note_names() {
+    if (rows_.has_no_names) {
+      return;
+    }
     if (rows_.names) {
       first_name_line_ = reading_.records[*rows_.names].line;
       end_of_names_ = reading_.records[*rows_.names + 1].line;
@@ -121,9 +124,12 @@ class RoleReader {
     } else {
       find_names_above();
     }
-    found_.has_names = !found_.names.empty();
-    if (found_.has_names) {
-      found_.names.resize(reading_.block.columns);
+    if (found_.names.empty()) {
+      return;
+    }
+    found_.names.resize(reading_.block.columns);
+    for (std::size_t line = first_name_line_; line < end_of_names_; ++line) {
+      found_.name_lines.push_back(line);
     }
   }
 
@@ -142,9 +148,11 @@ class RoleReader {
     }
   }
 
+  [[nodiscard]] bool has_names() const { return !found_.names.empty(); }
+
   [[nodiscard]] LineRole role_above(std::size_t const line) const {
     view const text = lines_[line];
-    if (found_.has_names && line >= first_name_line_ && line < end_of_names_) {
+    if (has_names() && line >= first_name_line_ && line < end_of_names_) {
       return LineRole::Names;
     }
     if (trimmed(text).empty()) {
@@ -159,7 +167,7 @@ class RoleReader {
     if (is_comment(text, reading_.strategy->options())) {
       return LineRole::Comment;
     }
-    return found_.has_names && line >= end_of_names_ ? LineRole::Units : LineRole::Title;
+    return has_names() && line >= end_of_names_ ? LineRole::Units : LineRole::Title;
   }
 
   [[nodiscard]] LineRole role_below(std::size_t const line) const {

@@ -11,7 +11,7 @@
 #include "text_import/analysis/describing/header_rows_internal.hpp"
 #include "text_import/analysis/readings/reading_internal.hpp"
 #include "text_import/analysis/lines/line_index.hpp"
-#include "text_import/survey/survey.hpp"
+#include "text_import/format/evidence.hpp"
 
 namespace textimport::analysis {
 
@@ -20,8 +20,8 @@ struct Surroundings {
   std::size_t data_starts_at = 0;
   std::size_t data_ends_at = 0;
   std::vector<NotedLine> lines;
-  bool has_names = false;
-  std::vector<std::u16string> names;  ///< as many as there are columns when there are names
+  std::vector<std::u16string> names;  ///< as many as there are columns, or none
+  std::vector<std::size_t> name_lines;  ///< where they stand; empty without names
 };
 
 /// Looks around the table of a reading. `rows` tells its header rows.

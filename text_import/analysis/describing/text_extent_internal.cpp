@@ -55,21 +55,21 @@ auto measure_up_to(view const line, std::size_t const position, Count const coun
 }
 
 template <class Count>
-std::optional<ColumnExtent> agreed_extent(LineIndex const& lines, std::size_t const first,
+std::optional<Extent> agreed_extent(LineIndex const& lines, std::size_t const first,
                                            std::size_t const end, std::size_t const from,
                                            std::size_t const behind, Count const count) {
   if (lines.is_ascii()) {
     auto const width = count(view(u" "));
-    return first < end && width ? std::optional(ColumnExtent{from * *width, behind * *width})
+    return first < end && width ? std::optional(Extent{from * *width, behind * *width})
                                 : std::nullopt;
   }
-  std::optional<ColumnExtent> agreed;
+  std::optional<Extent> agreed;
   for (std::size_t i = first; i < end; ++i) {
     auto const begin = count(lines[i].substr(0, from));
     if (!begin || !count(lines[i].substr(0, behind))) {
       return std::nullopt;
     }
-    ColumnExtent const here{*measure_up_to(lines[i], from, count),
+    Extent const here{*measure_up_to(lines[i], from, count),
                              *measure_up_to(lines[i], behind, count)};
     if (agreed && (agreed->begin != here.begin || agreed->end != here.end)) {
       return std::nullopt;
@@ -85,7 +85,7 @@ std::size_t count_characters(view const text) noexcept {
   return text.size() - static_cast<std::size_t>(std::ranges::count_if(text, is_second_half));
 }
 
-std::optional<ColumnExtent> extent_in_characters(LineIndex const& lines,
+std::optional<Extent> extent_in_characters(LineIndex const& lines,
                                                   std::size_t const first, std::size_t const end,
                                                   std::size_t const from,
                                                   std::size_t const behind) {
@@ -93,7 +93,7 @@ std::optional<ColumnExtent> extent_in_characters(LineIndex const& lines,
                        [](view const text) { return std::optional(count_characters(text)); });
 }
 
-std::optional<ColumnExtent> extent_in_bytes(LineIndex const& lines, std::size_t const first,
+std::optional<Extent> extent_in_bytes(LineIndex const& lines, std::size_t const first,
                                              std::size_t const end, std::size_t const from,
                                              std::size_t const behind,
                                              std::string_view const encoding) {

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-namespace textimport::analysis {
+namespace textimport {
 
 namespace {
 
@@ -23,10 +23,6 @@ std::size_t ending_length(std::u16string_view const text,
     return !ending.empty() && text.starts_with(ending);
   });
   return found == line_endings.end() ? 0 : found->size();
-}
-
-constexpr bool is_blank(char16_t const c) noexcept {
-  return c == u' ' || c == u'\t';
 }
 
 }  // namespace
@@ -64,10 +60,27 @@ LineIndex::LineIndex(std::u16string_view const text,
   }
 }
 
-std::size_t LineIndex::line_at(std::size_t const position) const noexcept {
-  auto const behind = std::ranges::upper_bound(starts_, position);
+std::size_t LineIndex::line_at(std::size_t const offset) const noexcept {
+  auto const behind = std::ranges::upper_bound(starts_, offset);
   return behind == starts_.begin() ? 0 : static_cast<std::size_t>(behind - starts_.begin()) - 1;
 }
+
+Position LineIndex::position_of(std::size_t const offset) const noexcept {
+  std::size_t const line = line_at(offset);
+  return {offset, line, offset - start(line)};
+}
+
+}  // namespace textimport
+
+namespace textimport::analysis {
+
+namespace {
+
+constexpr bool is_blank(char16_t const c) noexcept {
+  return c == u' ' || c == u'\t';
+}
+
+}  // namespace
 
 std::u16string_view trimmed(std::u16string_view text) noexcept {
   while (!text.empty() && is_blank(text.front())) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The physical lines of a sample, by number: where they start, what stands in them, and which one a
-// position belongs to.
+// The physical lines of a text, by number: where they start, what stands in them, and which one a
+// position belongs to. Made once for a text and handed on: nobody else splits lines.
 #pragma once
 
 #include <array>
@@ -10,12 +10,19 @@
 #include <string_view>
 #include <vector>
 
-namespace textimport::analysis {
+#include "text_import/export.hpp"
+#include "text_import/format/evidence.hpp"
 
-/// The lines of a text, counted from 0. A line ending behind the last line starts no further one.
-/// Refers to the text, which must outlive it. Positions count code units from the text's start.
-class LineIndex {
+namespace textimport {
+
+/// The lines of a text as an editor numbers them, counted from 0, whatever quotes and comments they
+/// are part of. A line ending behind the last line starts no further one. Refers to the text, which
+/// must outlive it. Positions count code units from the text's start.
+class TEXT_IMPORT_API LineIndex {
  public:
+  /// An index of no text.
+  LineIndex() = default;
+
   /// `line_endings` as in the parsing options: the first that matches ends the line.
   LineIndex(std::u16string_view text, std::vector<std::u16string> const& line_endings);
 
@@ -33,14 +40,23 @@ class LineIndex {
     return line < starts_.size() ? starts_[line] : text_.size();
   }
 
+  /// The text from the start of one line up to the start of another, which is not before it.
+  [[nodiscard]] std::u16string_view between(std::size_t const first,
+                                            std::size_t const end) const noexcept {
+    return text_.substr(start(first), start(end) - start(first));
+  }
+
   /// Whether every code unit of the text is an ASCII character.
   [[nodiscard]] bool is_ascii() const noexcept { return is_ascii_; }
 
   /// Whether an ASCII character stands anywhere in the text.
   [[nodiscard]] bool hold(char16_t const character) const noexcept { return held_[character]; }
 
-  /// The line that holds the position or whose ending does. The text must have a line.
-  [[nodiscard]] std::size_t line_at(std::size_t position) const noexcept;
+  /// The line that holds the offset or whose ending does. The text must have a line.
+  [[nodiscard]] std::size_t line_at(std::size_t offset) const noexcept;
+
+  /// The same as a place for people and programs. The text must have a line.
+  [[nodiscard]] Position position_of(std::size_t offset) const noexcept;
 
  private:
   std::u16string_view text_;
@@ -49,6 +65,10 @@ class LineIndex {
   std::array<bool, 128> held_{};
   bool is_ascii_ = true;
 };
+
+}  // namespace textimport
+
+namespace textimport::analysis {
 
 /// The text without blanks (spaces and tabs) at both ends.
 [[nodiscard]] std::u16string_view trimmed(std::u16string_view text) noexcept;

@@ -40,40 +40,45 @@ bool is_columnar(ColumnProfile const& profile) {
          has_ragged_columns;
 }
 
-/// Fills the list of one survey.
+/// Fills the list of one analysis.
 class ReadingCollector {
  public:
-  ReadingCollector(LineIndex const& lines, SurveyOptions const& options)
-      : lines_(lines), options_(options) {}
+  ReadingCollector(LineIndex const& lines, Task const& task) : lines_(lines), task_(task) {}
 
-  void ask_library(Hypothesis const& asked) {
+  /// The engine's decision is kept for the first hypothesis that it is asked about.
+  void ask_engine(AssumedOptions const& assumed) {
     DetectionReport report;
-    textio::detection::StrategySelector selector(asked.parsing, options_.types);
-    static_cast<void>(
-        selector.pick_strategy(textio::Field(lines_.text()), options_.records, report));
+    textio::detection::StrategySelector selector(assumed.parsing, task_.types);
+    auto decision =
+        selector.pick_strategy(textio::Field(lines_.text()), task_.request.records, report);
     for (auto const& sampled : report.sampled) {
       add(sampled.strategy);
     }
-    for (std::u16string const& delimiter : unguessed_delimiters(lines_, report)) {
-      evaluate<DelimitedStrategy>(asked, delimiter_list{delimiter});
+    if (!task_.request.engine_decides) {
+      for (std::u16string const& delimiter : unguessed_delimiters(lines_, report)) {
+        evaluate<DelimitedStrategy>(assumed, delimiter_list{delimiter});
+      }
+    }
+    if (!found_.engine) {
+      found_.engine_decision = std::move(decision);
+      found_.engine = std::move(report);
     }
   }
 
   /// Reads by what is given of layout, delimiter and widths.
-  void read_as_given(Hypothesis const& asked) {
-    GivenParts const& given = options_.given;
-    if (given.delimiter) {
-      evaluate<DelimitedStrategy>(asked, asked.parsing.delimiters);
-    } else if (given.widths) {
-      evaluate<FixedWidthStrategy>(asked, std::vector(asked.parsing.column_widths));
-    } else if (options_.layout == Layout::SpaceAligned) {
-      evaluate<SpaceAlignedStrategy>(asked);
-    } else if (options_.layout == Layout::Delimited) {
-      ask_library(asked);
-      std::erase_if(readings_,
+  void read_as_given(AssumedOptions const& assumed) {
+    if (!task_.request.delimiters.empty()) {
+      evaluate<DelimitedStrategy>(assumed, assumed.parsing.delimiters);
+    } else if (!task_.request.widths.empty()) {
+      evaluate<FixedWidthStrategy>(assumed, std::vector(assumed.parsing.column_widths));
+    } else if (task_.layout == Layout::SpaceAligned) {
+      evaluate<SpaceAlignedStrategy>(assumed);
+    } else if (task_.layout == Layout::Delimited) {
+      ask_engine(assumed);
+      std::erase_if(found_.readings,
                     [](Reading const& r) { return r.layout != Layout::Delimited; });
-      if (readings_.empty()) {
-        evaluate<DelimitedStrategy>(asked, delimiter_list{u","});
+      if (found_.readings.empty()) {
+        evaluate<DelimitedStrategy>(assumed, delimiter_list{u","});
       }
     }
   }
@@ -90,25 +95,26 @@ class ReadingCollector {
         best = std::move(profile);
       }
     }
-    if (!is_given && !is_columnar(best)) {
+    found_.shows_fixed_width = is_columnar(best);
+    if (!is_given && !found_.shows_fixed_width) {
       return;
     }
     auto const strategy =
-        std::make_shared<FixedWidthStrategy>(options_.parsing, options_.types, best.widths());
+        std::make_shared<FixedWidthStrategy>(task_.parsing, task_.types, best.widths());
     // All lines that were profiled: the table may stand behind a long preamble.
     textio::evaluate_strategy(strategy, textio::Field(lines_.text()),
-                              std::max(options_.records, lines_profiled));
-    readings_.push_back(measure_records(strategy, lines_, &best));
-    readings_.back().agreement = best.agreement();
+                              std::max(task_.request.records, lines_profiled));
+    found_.readings.push_back(measure_records(strategy, lines_, &best));
+    found_.readings.back().agreement = best.agreement();
   }
 
   void next_hypothesis() { ++hypothesis_; }
 
-  [[nodiscard]] std::vector<Reading> take() { return std::move(readings_); }
+  [[nodiscard]] CollectedReadings take() { return std::move(found_); }
 
   /// Whether a usual delimiter explains nearly all of the text.
   [[nodiscard]] bool is_explained() const {
-    return std::ranges::any_of(readings_, [](Reading const& r) {
+    return std::ranges::any_of(found_.readings, [](Reading const& r) {
       constexpr std::u16string_view usual = u",\t;|";
       bool const is_usual =
           r.delimiter.size() == 1 && usual.find(r.delimiter.front()) != std::u16string_view::npos;
@@ -118,73 +124,62 @@ class ReadingCollector {
 
  private:
   template <class Strategy, class... Argument>
-  void evaluate(Hypothesis const& asked, Argument&&... argument) {
-    auto strategy = std::make_shared<Strategy>(asked.parsing, options_.types,
+  void evaluate(AssumedOptions const& assumed, Argument&&... argument) {
+    auto strategy = std::make_shared<Strategy>(assumed.parsing, task_.types,
                                                std::forward<Argument>(argument)...);
-    textio::evaluate_strategy(strategy, textio::Field(lines_.text()), options_.records);
+    textio::evaluate_strategy(strategy, textio::Field(lines_.text()), task_.request.records);
     add(std::move(strategy));
+  }
+
+  /// A blank that is no delimiter separates no columns either.
+  [[nodiscard]] bool is_excluded(Reading const& r) const {
+    bool const is_given = !task_.request.delimiters.empty();
+    return !is_given && (task_.excludes(r.delimiter) ||
+                         (r.layout == Layout::SpaceAligned && task_.excludes(u" ")));
   }
 
   void add(std::shared_ptr<textio::GenericStrategy> strategy) {
     Reading r = measure_records(std::move(strategy), lines_);
     r.hypothesis = hypothesis_;
-    if (auto last = measure_last_block(r)) {
-      readings_.push_back(std::move(*last));
+    if (is_excluded(r)) {
+      return;
     }
-    readings_.push_back(std::move(r));
+    if (auto last = measure_last_block(r)) {
+      found_.readings.push_back(std::move(*last));
+    }
+    found_.readings.push_back(std::move(r));
   }
 
   LineIndex const& lines_;
-  SurveyOptions const& options_;
+  Task const& task_;
   std::size_t hypothesis_ = 0;
-  std::vector<Reading> readings_;
+  CollectedReadings found_;
 };
 
 }  // namespace
 
-std::vector<Reading> collect_readings(LineIndex const& lines,
-                                      std::vector<Hypothesis> const& hypotheses,
-                                      SurveyOptions const& options) {
-  GivenParts const& given = options.given;
-  bool const is_bound = given.delimiter || given.widths || given.layout;
-  ReadingCollector collector(lines, options);
-  for (Hypothesis const& asked : hypotheses) {
-    is_bound ? collector.read_as_given(asked) : collector.ask_library(asked);
+CollectedReadings collect_readings(LineIndex const& lines,
+                                   std::vector<AssumedOptions> const& hypotheses,
+                                   Task const& task) {
+  ReadingCollector collector(lines, task);
+  if (task.layout == Layout::Lines) {
+    return collector.take();
+  }
+  for (AssumedOptions const& assumed : hypotheses) {
+    task.layout ? collector.read_as_given(assumed) : collector.ask_engine(assumed);
     collector.next_hypothesis();
   }
-  bool const is_fixed = given.layout && options.layout == Layout::FixedWidth && !given.widths;
-  if (is_fixed || (!is_bound && !collector.is_explained())) {
+  bool const is_fixed = task.layout == Layout::FixedWidth && task.request.widths.empty();
+  bool const is_open = !task.layout && !task.request.engine_decides;
+  if (is_fixed || (is_open && !collector.is_explained())) {
     collector.read_fixed_width(is_fixed);
   }
   return collector.take();
 }
 
-std::shared_ptr<textio::GenericStrategy> read_with_decimal_comma(Reading const& r,
-                                                                 LineIndex const& lines,
-                                                                 SurveyOptions const& options) {
-  auto parsing = r.strategy->options();
-  parsing.decimal_separator = u',';
-  auto types = options.types;
-  types.replace_characters = true;
-  types.first_replacement_set += u',';
-  types.first_replacement = u'.';
-  std::shared_ptr<textio::GenericStrategy> strategy;
-  if (r.layout == Layout::Delimited) {
-    strategy = std::make_shared<DelimitedStrategy>(parsing, types);
-  } else if (r.layout == Layout::SpaceAligned) {
-    strategy = std::make_shared<SpaceAlignedStrategy>(parsing, types);
-  } else {
-    strategy =
-        std::make_shared<FixedWidthStrategy>(parsing, types, std::vector(parsing.column_widths));
-  }
-  textio::evaluate_strategy(strategy, textio::Field(lines.text()), options.records);
-  return strategy;
-}
-
-std::shared_ptr<textio::GenericStrategy> read_lines(LineIndex const& lines,
-                                                    SurveyOptions const& options) {
-  auto strategy = std::make_shared<textio::LineReaderStrategy>(options.parsing, options.types);
-  textio::evaluate_strategy(strategy, textio::Field(lines.text()), options.records);
+std::shared_ptr<textio::GenericStrategy> read_lines(LineIndex const& lines, Task const& task) {
+  auto strategy = std::make_shared<textio::LineReaderStrategy>(task.parsing, task.types);
+  textio::evaluate_strategy(strategy, textio::Field(lines.text()), task.request.records);
   return strategy;
 }
 

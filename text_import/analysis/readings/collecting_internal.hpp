@@ -1,31 +1,41 @@
 // SPDX-License-Identifier: MIT
 //
-// Every reading that a survey weighs: what the library sampled under each hypothesis, and what it
+// Every reading that an analysis weighs: what the engine sampled under each hypothesis, and what it
 // never guesses by itself.
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <vector>
 
+#include "text_format_detection/detection/detection_report.hpp"
+#include "text_import/analysis/lines/line_index.hpp"
 #include "text_import/analysis/readings/hypothesis_internal.hpp"
 #include "text_import/analysis/readings/reading_internal.hpp"
-#include "text_import/analysis/lines/line_index.hpp"
-#include "text_import/survey/survey.hpp"
+#include "text_import/analysis/readings/task_internal.hpp"
 
 namespace textimport::analysis {
 
-/// The readings of the sample, in a fixed order; their values are not measured yet. A given layout
-/// or delimiter leaves only the readings that keep to it, at least one for each hypothesis.
-[[nodiscard]] std::vector<Reading> collect_readings(LineIndex const& lines,
-                                                    std::vector<Hypothesis> const& hypotheses,
-                                                    SurveyOptions const& options);
+struct CollectedReadings {
+  /// In a fixed order; their values are not measured yet.
+  std::vector<Reading> readings;
+  /// The engine's own decision under the first hypothesis, and the strategy that it came to; empty
+  /// when the engine was not asked.
+  std::optional<textio::detection::DetectionReport> engine;
+  std::shared_ptr<textio::GenericStrategy> engine_decision;
+  /// The positions of the lines show columns of fixed width. Only where that was looked at.
+  bool shows_fixed_width = false;
+};
 
-/// The strategy of a reading once more, with a comma for the decimal mark of its numbers.
-[[nodiscard]] std::shared_ptr<textio::GenericStrategy> read_with_decimal_comma(
-    Reading const& r, LineIndex const& lines, SurveyOptions const& options);
+/// The readings of the sample. A given layout or delimiter leaves only the readings that keep to it,
+/// at least one for each hypothesis; excluded delimiters have none. The engine decides once for each
+/// hypothesis, or not at all.
+[[nodiscard]] CollectedReadings collect_readings(LineIndex const& lines,
+                                                 std::vector<AssumedOptions> const& hypotheses,
+                                                 Task const& task);
 
 /// Each line as one value, under the first hypothesis.
 [[nodiscard]] std::shared_ptr<textio::GenericStrategy> read_lines(LineIndex const& lines,
-                                                                  SurveyOptions const& options);
+                                                                  Task const& task);
 
 }  // namespace textimport::analysis

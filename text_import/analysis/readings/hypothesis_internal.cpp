@@ -105,43 +105,38 @@ std::vector<std::u16string> find_comment_style(LineIndex const& lines) {
 }
 
 /// Each hypothesis once more, with comments.
-void add_comments(std::vector<Hypothesis>& hypotheses, std::vector<std::u16string> const& style) {
+void add_comments(std::vector<AssumedOptions>& assumed, std::vector<std::u16string> const& style) {
   if (style.empty()) {
     return;
   }
-  std::string const marker(style.front().begin(), style.front().end());
-  std::size_t const without = hypotheses.size();
+  std::size_t const without = assumed.size();
   for (std::size_t i = 0; i < without; ++i) {
-    Hypothesis with = hypotheses[i];
-    with.name += ", comments start with " + marker;
+    AssumedOptions with = assumed[i];
+    with.hypothesis.comment_markers = style;
     with.parsing.comment_style = style;
-    hypotheses.push_back(std::move(with));
+    assumed.push_back(std::move(with));
   }
 }
 
 }  // namespace
 
-std::vector<Hypothesis> propose_hypotheses(LineIndex const& lines,
-                                           SurveyOptions const& options) {
-  std::vector<Hypothesis> hypotheses{{"as given", options.parsing}};
-  if (!options.given.decimal_mark) {
-    hypotheses.front().parsing.decimal_separator = u'.';  // which delimits next to nothing
-  }
-  char16_t const quote = quote_of(options.parsing);
-  if (!options.given.quote) {
+std::vector<AssumedOptions> propose_hypotheses(LineIndex const& lines, Task const& task) {
+  std::vector<AssumedOptions> assumed{{{}, task.parsing}};
+  char16_t const quote = quote_of(task.parsing);
+  if (!task.request.quote) {
     if (quote != 0 && has_odd_quotes(lines, quote)) {
-      hypotheses.push_back({"quotes are ordinary characters", hypotheses.front().parsing});
-      hypotheses.back().parsing.quote_characters.clear();
+      assumed.push_back({{.quotes_are_ordinary = true}, task.parsing});
+      assumed.back().parsing.quote_characters.clear();
     }
     if (quote != u'\'' && has_apostrophe_quotes(lines)) {
-      hypotheses.push_back({"apostrophes are quotes", hypotheses.front().parsing});
-      hypotheses.back().parsing.quote_characters = u"'";
+      assumed.push_back({{.apostrophes_quote = true}, task.parsing});
+      assumed.back().parsing.quote_characters = u"'";
     }
   }
-  if (!options.given.comment) {
-    add_comments(hypotheses, find_comment_style(lines));
+  if (!task.request.comment_markers) {
+    add_comments(assumed, find_comment_style(lines));
   }
-  return hypotheses;
+  return assumed;
 }
 
 }  // namespace textimport::analysis

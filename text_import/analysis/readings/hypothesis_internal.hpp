@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The questions that a survey asks the library: the same sample under other quotes and comment
+// The questions that an analysis asks the engine: the same sample under other quotes and comment
 // markers, each only where the sample gives reason for it.
 #pragma once
 
@@ -10,12 +10,14 @@
 
 #include "text_format_detection/model/options.hpp"
 #include "text_import/analysis/lines/line_index.hpp"
-#include "text_import/survey/survey.hpp"
+#include "text_import/analysis/readings/task_internal.hpp"
+#include "text_import/format/evidence.hpp"
 
 namespace textimport::analysis {
 
-struct Hypothesis {
-  std::string name;  ///< for people: "as given", "quotes are ordinary characters" ...
+/// A hypothesis and the options that follow from it.
+struct AssumedOptions {
+  Hypothesis hypothesis;
   textio::parser::options parsing;
 };
 
@@ -24,8 +26,8 @@ struct Hypothesis {
   return parsing.quote_characters.empty() ? u'\0' : parsing.quote_characters.front();
 }
 
-/// The hypotheses for a sample, the caller's own options first.
-[[nodiscard]] std::vector<Hypothesis> propose_hypotheses(LineIndex const& lines,
-                                                         SurveyOptions const& options);
+/// The hypotheses for a sample, the caller's own options first. At most six.
+[[nodiscard]] std::vector<AssumedOptions> propose_hypotheses(LineIndex const& lines,
+                                                             Task const& task);
 
 }  // namespace textimport::analysis

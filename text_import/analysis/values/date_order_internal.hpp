@@ -5,7 +5,7 @@
 
 #include <string_view>
 
-#include "text_import/survey/column_findings.hpp"
+#include "text_import/format/column.hpp"
 
 namespace textimport::analysis {
 

@@ -9,11 +9,12 @@ namespace textimport::analysis {
 
 namespace {
 
-/// The rules that look at values, in their order.
-constexpr std::array value_rules{&several_columns,       &enough_text,        &rare_delimiters,
-                                 &sound_values,          &single_blanks,      &doubled_delimiters,
-                                 &seconds_are_no_column, &keys_are_no_column, &typed_fixed_width,
-                                 &touching_columns,      &best_fit,           &usual_delimiters};
+/// In their order. The first asks for no values, so that only those of readings that pass it are
+/// looked at.
+constexpr std::array all_rules{
+    &regular_records,    &several_columns,   &enough_text,      &rare_delimiters, &sound_values,
+    &single_blanks,      &doubled_delimiters, &seconds_are_no_column, &keys_are_no_column,
+    &typed_fixed_width,  &touching_columns,  &best_fit,         &usual_delimiters};
 
 KeptReadings all_of(std::vector<Reading> const& readings) {
   KeptReadings all(readings.size());
@@ -22,12 +23,12 @@ KeptReadings all_of(std::vector<Reading> const& readings) {
 }
 
 /// Applies one rule and notes who fell.
-void run_rule(SurveyRule const& rule, std::vector<Reading> const& readings, KeptReadings& kept,
+void run_rule(std::size_t const rule, std::vector<Reading> const& readings, KeptReadings& kept,
               std::vector<ReadingFate>& fates) {
-  KeptReadings left = rule.apply(kept, readings);
+  KeptReadings left = all_rules.at(rule)->apply(kept, readings);
   for (std::size_t const i : kept) {
     if (!std::ranges::binary_search(left, i)) {
-      fates[i] = {rule.name, rule.measure(readings[i])};
+      fates[i] = {rule, all_rules.at(rule)->measure(readings[i])};
     }
   }
   kept = std::move(left);
@@ -35,15 +36,23 @@ void run_rule(SurveyRule const& rule, std::vector<Reading> const& readings, Kept
 
 }  // namespace
 
+std::vector<RuleText> rule_texts() {
+  std::vector<RuleText> texts;
+  for (WeighingRule const* const rule : all_rules) {
+    texts.push_back({rule->name, rule->meaning});
+  }
+  return texts;
+}
+
 Weighing weigh_readings(std::vector<Reading>& readings, bool const is_bound) {
   Weighing result{std::vector<ReadingFate>(readings.size()), std::nullopt};
   KeptReadings kept = all_of(readings);
-  run_rule(regular_records, readings, kept, result.fates);
+  run_rule(0, readings, kept, result.fates);
   for (std::size_t const i : kept) {
     measure_values(readings[i]);
   }
-  for (SurveyRule const* const rule : value_rules) {
-    run_rule(*rule, readings, kept, result.fates);
+  for (std::size_t rule = 1; rule < all_rules.size(); ++rule) {
+    run_rule(rule, readings, kept, result.fates);
   }
   if (kept.empty() && is_bound && !readings.empty()) {
     kept = best_fit.apply(all_of(readings), readings);
@@ -64,9 +73,8 @@ std::optional<std::size_t> find_runner_up(std::vector<Reading> const& readings,
   std::vector<ReadingFate> fates(readings.size());
   KeptReadings kept = all_of(readings);
   std::erase_if(kept, splits_alike);
-  run_rule(regular_records, readings, kept, fates);
-  for (SurveyRule const* const rule : value_rules) {
-    run_rule(*rule, readings, kept, fates);
+  for (std::size_t rule = 0; rule < all_rules.size(); ++rule) {
+    run_rule(rule, readings, kept, fates);
   }
   return kept.empty() ? std::nullopt : std::optional(kept.front());
 }

@@ -4,16 +4,16 @@
 #pragma once
 
 #include <optional>
-#include <string_view>
 #include <vector>
 
-#include "text_import/analysis/weighing/rules/survey_rule_internal.hpp"
+#include "text_import/analysis/weighing/rules/weighing_rule_internal.hpp"
+#include "text_import/format/evidence.hpp"
 
 namespace textimport::analysis {
 
-/// At which rule a reading fell; no name for the one that is left.
+/// At which rule a reading fell, as a position in rule_texts(); none for the one that is left.
 struct ReadingFate {
-  std::string_view rule;
+  std::optional<std::size_t> rule;
   double measure = 0;
 };
 
@@ -21,6 +21,9 @@ struct Weighing {
   std::vector<ReadingFate> fates;    ///< one for each reading
   std::optional<std::size_t> winner;  ///< none when each line is a value
 };
+
+/// The rules in the order in which they run.
+[[nodiscard]] std::vector<RuleText> rule_texts();
 
 /// Measures the values of the readings that come so far, and lets the rules decide. `is_bound`: the
 /// caller gives the layout, so that the best of the readings stays where all would fall.

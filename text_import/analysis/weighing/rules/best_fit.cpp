@@ -4,7 +4,7 @@
 // sound as the best one's: the share of regular records times the soundness.
 #include <algorithm>
 
-#include "text_import/analysis/weighing/rules/survey_rule_internal.hpp"
+#include "text_import/analysis/weighing/rules/weighing_rule_internal.hpp"
 
 namespace textimport::analysis {
 
@@ -25,6 +25,8 @@ KeptReadings apply(KeptReadings const& kept, std::vector<Reading> const& reading
 
 }  // namespace
 
-SurveyRule const best_fit{"best_fit", apply, fit};
+WeighingRule const best_fit{
+    "best_fit", "what explains about as much of the text as the best; coverage times soundness",
+    apply, fit};
 
 }  // namespace textimport::analysis

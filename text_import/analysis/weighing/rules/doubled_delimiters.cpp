@@ -4,7 +4,7 @@
 // column would be empty.
 #include <algorithm>
 
-#include "text_import/analysis/weighing/rules/survey_rule_internal.hpp"
+#include "text_import/analysis/weighing/rules/weighing_rule_internal.hpp"
 
 namespace textimport::analysis {
 
@@ -20,7 +20,9 @@ KeptReadings apply(KeptReadings const& kept, std::vector<Reading> const& reading
 
 }  // namespace
 
-SurveyRule const doubled_delimiters{"doubled_delimiters", apply,
-                                     [](Reading const& r) { return r.empty_share; }};
+WeighingRule const doubled_delimiters{
+    "doubled_delimiters",
+    "where a character stands in pairs only, the pair delimits; the share of empty fields", apply,
+    [](Reading const& r) { return r.empty_share; }};
 
 }  // namespace textimport::analysis

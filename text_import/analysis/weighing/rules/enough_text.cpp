@@ -5,7 +5,7 @@
 // blanks, which split any prose, even the larger part of a text has to say more than text, and
 // words alone have to stand in threes on nearly every line.
 #include "text_import/analysis/weighing/rules/delimiter_class_internal.hpp"
-#include "text_import/analysis/weighing/rules/survey_rule_internal.hpp"
+#include "text_import/analysis/weighing/rules/weighing_rule_internal.hpp"
 
 namespace textimport::analysis {
 
@@ -43,10 +43,11 @@ bool is_enough(Reading const& r) {
 
 }  // namespace
 
-SurveyRule const enough_text{"enough_text",
-                              [](KeptReadings const& kept, std::vector<Reading> const& readings) {
-                                return keep_if(kept, readings, is_enough);
-                              },
-                              [](Reading const& r) { return r.coverage; }};
+WeighingRule const enough_text{"enough_text",
+                               "a table makes up much of its text; the share of the text's records",
+                               [](KeptReadings const& kept, std::vector<Reading> const& readings) {
+                                 return keep_if(kept, readings, is_enough);
+                               },
+                               [](Reading const& r) { return r.coverage; }};
 
 }  // namespace textimport::analysis

@@ -6,7 +6,7 @@
 #include <span>
 
 #include "text_import/analysis/weighing/rules/delimiter_class_internal.hpp"
-#include "text_import/analysis/weighing/rules/survey_rule_internal.hpp"
+#include "text_import/analysis/weighing/rules/weighing_rule_internal.hpp"
 
 namespace textimport::analysis {
 
@@ -43,8 +43,8 @@ bool has_real_columns(Reading const& r) {
 
 }  // namespace
 
-SurveyRule const keys_are_no_column{
-    "keys_are_no_column",
+WeighingRule const keys_are_no_column{
+    "keys_are_no_column", "\"name: value\" in each line is a list of settings; the columns",
     [](KeptReadings const& kept, std::vector<Reading> const& readings) {
       return keep_if(kept, readings, has_real_columns);
     },

@@ -4,7 +4,7 @@
 // delimiters may be missing more often than blanks, which any sentence holds, and a rare delimiter
 // has to split nearly all of the text.
 #include "text_import/analysis/weighing/rules/delimiter_class_internal.hpp"
-#include "text_import/analysis/weighing/rules/survey_rule_internal.hpp"
+#include "text_import/analysis/weighing/rules/weighing_rule_internal.hpp"
 
 namespace textimport::analysis {
 
@@ -29,8 +29,10 @@ bool is_regular(Reading const& r) {
 
 }  // namespace
 
-SurveyRule const regular_records{
+WeighingRule const regular_records{
     "regular_records",
+    "between its first and its last record a table mostly has the same number of fields; the share "
+    "of records that have it",
     [](KeptReadings const& kept, std::vector<Reading> const& readings) {
       return keep_if(kept, readings, is_regular);
     },

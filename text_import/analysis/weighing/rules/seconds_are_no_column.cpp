@@ -4,7 +4,7 @@
 // first column ends in a time and whose second begins with its three digits is of such lines.
 #include <algorithm>
 
-#include "text_import/analysis/weighing/rules/survey_rule_internal.hpp"
+#include "text_import/analysis/weighing/rules/weighing_rule_internal.hpp"
 
 namespace textimport::analysis {
 
@@ -37,8 +37,8 @@ bool has_real_columns(Reading const& r) {
 
 }  // namespace
 
-SurveyRule const seconds_are_no_column{
-    "seconds_are_no_column",
+WeighingRule const seconds_are_no_column{
+    "seconds_are_no_column", "the fraction of a second behind a comma is no column; the columns",
     [](KeptReadings const& kept, std::vector<Reading> const& readings) {
       return keep_if(kept, readings, has_real_columns);
     },

@@ -7,7 +7,7 @@
 #include <algorithm>
 
 #include "text_import/analysis/weighing/rules/delimiter_class_internal.hpp"
-#include "text_import/analysis/weighing/rules/survey_rule_internal.hpp"
+#include "text_import/analysis/weighing/rules/weighing_rule_internal.hpp"
 
 namespace textimport::analysis {
 
@@ -38,7 +38,9 @@ KeptReadings apply(KeptReadings const& kept, std::vector<Reading> const& reading
 
 }  // namespace
 
-SurveyRule const touching_columns{"touching_columns", apply,
-                                   [](Reading const& r) { return r.broken_share; }};
+WeighingRule const touching_columns{
+    "touching_columns",
+    "blanks separate columns only where none stands inside a value; the share of broken values",
+    apply, [](Reading const& r) { return r.broken_share; }};
 
 }  // namespace textimport::analysis

@@ -4,7 +4,7 @@
 // hypothesis that assumes less, which comes first.
 #include <algorithm>
 
-#include "text_import/analysis/weighing/rules/survey_rule_internal.hpp"
+#include "text_import/analysis/weighing/rules/weighing_rule_internal.hpp"
 
 namespace textimport::analysis {
 
@@ -33,6 +33,7 @@ KeptReadings apply(KeptReadings const& kept, std::vector<Reading> const& reading
 
 }  // namespace
 
-SurveyRule const usual_delimiters{"usual_delimiters", apply, rank};
+WeighingRule const usual_delimiters{"usual_delimiters", "the most usual delimiter; its rank", apply,
+                                    rank};
 
 }  // namespace textimport::analysis

@@ -15,27 +15,28 @@ namespace textimport::analysis {
 /// Positions in the list of readings, ascending.
 using KeptReadings = std::vector<std::size_t>;
 
-struct SurveyRule {
+struct WeighingRule {
   std::string_view name;
+  std::string_view meaning;  ///< what it demands, and which number it looks at
   /// Those of `kept` that stay.
   KeptReadings (*apply)(KeptReadings const& kept, std::vector<Reading> const& readings);
   /// The number that the rule looks at, for people.
   double (*measure)(Reading const& r);
 };
 
-extern SurveyRule const regular_records;  // the only one that asks for no values
-extern SurveyRule const several_columns;
-extern SurveyRule const enough_text;
-extern SurveyRule const single_blanks;
-extern SurveyRule const doubled_delimiters;
-extern SurveyRule const rare_delimiters;
-extern SurveyRule const sound_values;
-extern SurveyRule const seconds_are_no_column;
-extern SurveyRule const keys_are_no_column;
-extern SurveyRule const typed_fixed_width;
-extern SurveyRule const touching_columns;
-extern SurveyRule const best_fit;
-extern SurveyRule const usual_delimiters;
+extern WeighingRule const regular_records;  // the only one that asks for no values
+extern WeighingRule const several_columns;
+extern WeighingRule const enough_text;
+extern WeighingRule const single_blanks;
+extern WeighingRule const doubled_delimiters;
+extern WeighingRule const rare_delimiters;
+extern WeighingRule const sound_values;
+extern WeighingRule const seconds_are_no_column;
+extern WeighingRule const keys_are_no_column;
+extern WeighingRule const typed_fixed_width;
+extern WeighingRule const touching_columns;
+extern WeighingRule const best_fit;
+extern WeighingRule const usual_delimiters;
 
 /// Those of `kept` for which `keeps` holds.
 template <class Predicate>

@@ -1,0 +1,204 @@
+// SPDX-License-Identifier: MIT
+//
+// The story of an analysis: hypotheses, readings, weighing, what can be said of the answer, and how
+// sure it is.
+#include <algorithm>
+#include <utility>
+
+#include "text_format_detection/model/field_array.hpp"
+#include "text_import/analysis/analysis.hpp"
+#include "text_import/analysis/checking/rule_check_internal.hpp"
+#include "text_import/analysis/describing/description_internal.hpp"
+#include "text_import/analysis/readings/collecting_internal.hpp"
+#include "text_import/analysis/weighing/confidence_internal.hpp"
+#include "text_import/analysis/weighing/weighing_internal.hpp"
+
+namespace textimport {
+
+namespace {
+
+using analysis::AssumedOptions;
+using analysis::CollectedReadings;
+using analysis::Description;
+using analysis::Reading;
+using analysis::Task;
+using analysis::Weighing;
+
+std::u16string_view text_of(TextSample const& sample) {
+  return sample.text.substr(0, sample.text.find(textio::end_mark));
+}
+
+class Analyst {
+ public:
+  Analyst(TextSample const& sample, Request const& request)
+      : task_(analysis::make_task(sample, request)) {
+    found_.lines = LineIndex(text_of(sample), task_.parsing.line_endings);
+  }
+
+  Analysis run() {
+    assumed_ = propose_hypotheses(found_.lines, task_);
+    collected_ = collect_readings(found_.lines, assumed_, task_);
+    weigh();
+    describe();
+    judge();
+    find_runner_up();
+    found_.violation = analysis::find_violation(found_.format, found_.lines, task_.request.records);
+    found_.engine = std::move(collected_.engine);
+    return std::move(found_);
+  }
+
+ private:
+  [[nodiscard]] std::vector<Reading>& readings() { return collected_.readings; }
+
+  void weigh() {
+    bool const is_engines = task_.request.engine_decides && !task_.layout;
+    Weighing const weighed =
+        is_engines ? weigh_by_engine() : weigh_readings(readings(), task_.layout.has_value());
+    Evidence& evidence = found_.evidence;
+    evidence.winner = weighed.winner;
+    evidence.rules = analysis::rule_texts();
+    for (AssumedOptions const& assumed : assumed_) {
+      evidence.hypotheses.push_back(assumed.hypothesis);
+    }
+    for (std::size_t i = 0; i < readings().size(); ++i) {
+      Reading const& r = readings()[i];
+      evidence.candidates.push_back({r.hypothesis, r.layout, r.delimiter, r.block.columns,
+                                     r.coverage, r.soundness, weighed.fates[i].rule,
+                                     weighed.fates[i].measure});
+    }
+  }
+
+  /// The reading that the engine came to. Its comma fallback was never a candidate.
+  Weighing weigh_by_engine() {
+    Weighing weighed;
+    auto const& decision = collected_.engine_decision;
+    if (decision->mode() != textio::enums::StrategyMode::LineReader) {
+      auto const found = std::ranges::find(readings(), decision, &Reading::strategy);
+      weighed.winner = static_cast<std::size_t>(found - readings().begin());
+      if (found == readings().end()) {
+        readings().push_back(analysis::measure_records(decision, found_.lines));
+      }
+      measure_values(readings()[*weighed.winner]);
+    }
+    weighed.fates.resize(readings().size());
+    return weighed;
+  }
+
+  void describe() {
+    Description said;
+    if (found_.evidence.winner) {
+      Reading const& winner = readings()[*found_.evidence.winner];
+      found_.strategy = winner.strategy;
+      said = describe_table(winner, assumed_[winner.hypothesis].hypothesis, task_, found_.lines);
+    } else {
+      found_.strategy = analysis::read_lines(found_.lines, task_);
+      said = describe_list(task_, found_.lines);
+    }
+    start_is_missing_ = said.start_is_missing;
+    found_.format = std::move(said.format);
+    Evidence& evidence = found_.evidence;
+    evidence.lines = std::move(said.lines);
+    evidence.columns = std::move(said.columns);
+    evidence.units_left_over = said.units_left_over;
+    evidence.repeated_names = std::move(said.repeated_names);
+    evidence.lines_seen = found_.lines.count();
+    evidence.records_sampled = found_.strategy->field_array()->num_records();
+    evidence.goes_on = task_.goes_on;
+  }
+
+  void judge() {
+    found_.reason = usual_reason();
+    found_.certainty.layout = certainty_of_layout();
+    if (start_is_missing_) {
+      doubt(Reason::StartNotFound);
+    } else if (columns_differ()) {
+      doubt(Reason::ColumnsDiffer);
+    } else if (is_layout_missing()) {
+      found_.certainty.layout = 0;
+      doubt(Reason::LayoutNotFound);
+    } else if (is_unsure()) {
+      doubt(Reason::Unsure);
+    }
+  }
+
+  void doubt(Reason const reason) {
+    found_.decided = false;
+    found_.reason = reason;
+  }
+
+  [[nodiscard]] bool has_records() const { return !found_.format.columns.empty(); }
+
+  [[nodiscard]] Reason usual_reason() const {
+    if (task_.splits_are_given()) {
+      return Reason::Given;
+    }
+    if (!has_records()) {
+      return Reason::NoRecords;
+    }
+    if (task_.request.engine_decides) {
+      return Reason::EngineDecided;
+    }
+    if (!found_.evidence.winner) {
+      return Reason::NoTable;
+    }
+    return found_.evidence.candidates.size() == 1 ? Reason::OnlyReading : Reason::BestReading;
+  }
+
+  [[nodiscard]] double certainty_of_layout() const {
+    if (task_.splits_are_given() || !has_records()) {
+      return 1;
+    }
+    return found_.evidence.winner
+               ? confidence_of_table(collected_.readings, *found_.evidence.winner)
+               : analysis::confidence_of_lines(collected_.readings);
+  }
+
+  [[nodiscard]] bool columns_differ() const {
+    return task_.request.num_columns && has_records() &&
+           *task_.request.num_columns != found_.format.columns.size();
+  }
+
+  /// A layout that is given, and nothing in the text that splits the lines in that manner.
+  [[nodiscard]] bool is_layout_missing() const {
+    if (!task_.layout || task_.splits_are_given() || !has_records()) {
+      return false;
+    }
+    bool const is_fixed = *task_.layout == Layout::FixedWidth;
+    return found_.format.columns.size() == 1 || (is_fixed && !collected_.shows_fixed_width);
+  }
+
+  [[nodiscard]] bool is_unsure() const {
+    using textio::detection::Outcome;
+    if (task_.splits_are_given() || !found_.evidence.winner || !has_records()) {
+      return false;
+    }
+    return task_.request.engine_decides
+               ? collected_.engine && collected_.engine->outcome == Outcome::CommaFallback
+               : found_.certainty.layout < analysis::decided_from;
+  }
+
+  void find_runner_up() {
+    auto const& winner = found_.evidence.winner;
+    if (!winner || task_.layout || task_.request.engine_decides) {
+      return;
+    }
+    if (auto const next = analysis::find_runner_up(readings(), *winner)) {
+      double const certainty = confidence_of_table(readings(), *next);
+      found_.evidence.runner_up = {*next, (1 - found_.certainty.layout) * certainty};
+    }
+  }
+
+  Task task_;
+  std::vector<AssumedOptions> assumed_;
+  CollectedReadings collected_;
+  bool start_is_missing_ = false;
+  Analysis found_;
+};
+
+}  // namespace
+
+Analysis analyse(TextSample const& sample, Request const& request) {
+  return Analyst(sample, request).run();
+}
+
+}  // namespace textimport
