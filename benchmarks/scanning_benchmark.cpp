@@ -9,12 +9,12 @@
 
 #include "benchmarks/operation.hpp"
 #include "text_format_detection/detection/candidate_characters_internal.hpp"
+#include "text_format_detection/detection/sampler_internal.hpp"
 #include "text_format_detection/model/text_view_internal.hpp"
 #include "text_format_detection/reading/delimited_scanner_internal.hpp"
 #include "text_format_detection/reading/fixed_stream.hpp"
 #include "text_format_detection/reading/fixed_width_scanner_internal.hpp"
 #include "text_format_detection/reading/line_scanner_internal.hpp"
-#include "text_format_detection/reading/sampler_internal.hpp"
 #include "text_format_detection/strategies/field_classifier_internal.hpp"
 #include "text_format_detection/strategies/layout_strategies.hpp"
 
@@ -81,9 +81,9 @@ Prepare scan(MakeStrategy const make) {
 }
 
 StrategyPtr sampled(MakeStrategy const make, Shape const& shape, Field const& text) {
-  reading::SamplingContext context(text, unknown_count);
+  detection::SamplingContext context(text, unknown_count);
   StrategyPtr strategy = make(shape);
-  reading::sample_strategy(context, strategy, false);
+  detection::sample_strategy(context, strategy, false);
   return strategy;
 }
 

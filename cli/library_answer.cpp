@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "cli/contradictions.hpp"
+#include "text_format_detection/detection/evaluate_strategy.hpp"
 #include "text_format_detection/detection/strategy_selector.hpp"
 #include "text_format_detection/model/field_array.hpp"
 #include "text_format_detection/reading/read_records.hpp"

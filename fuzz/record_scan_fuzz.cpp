@@ -6,7 +6,7 @@
 
 #include "fuzz/input.hpp"
 #include "fuzz/properties.hpp"
-#include "text_format_detection/reading/sampler_internal.hpp"
+#include "text_format_detection/reading/read_with_mode_internal.hpp"
 #include "text_format_detection/text_format_detection.hpp"
 
 namespace {

@@ -8,7 +8,7 @@
 #include "tests/support/errors.hpp"
 #include "tests/support/strategies.hpp"
 #include "text_format_detection/detection/picker_rules/ranking_internal.hpp"
-#include "text_format_detection/reading/sampler_internal.hpp"
+#include "text_format_detection/reading/read_with_mode_internal.hpp"
 #include "text_format_detection/strategies/field_classifier_internal.hpp"
 #include "text_format_detection/text_format_detection.hpp"
 

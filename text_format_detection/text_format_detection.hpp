@@ -4,6 +4,7 @@
 #pragma once
 
 #include "text_format_detection/detection/detection_report.hpp"
+#include "text_format_detection/detection/evaluate_strategy.hpp"
 #include "text_format_detection/detection/header_lines.hpp"
 #include "text_format_detection/detection/strategy_selector.hpp"
 #include "text_format_detection/export.hpp"

@@ -22,8 +22,8 @@ LAYERS = [
     LIBRARY,  # only the files directly in the folder: export and version
     f"{LIBRARY}/model",
     f"{LIBRARY}/platform",
-    f"{LIBRARY}/strategies",
     f"{LIBRARY}/reading",
+    f"{LIBRARY}/strategies",
     f"{LIBRARY}/detection",
     "text_import",
     "cli",

@@ -8,7 +8,7 @@
 #include "tests/support/text.hpp"
 #include "text_format_detection/detection/candidate_characters_internal.hpp"
 #include "text_format_detection/detection/candidates_internal.hpp"
-#include "text_format_detection/reading/sampler_internal.hpp"
+#include "text_format_detection/detection/sampler_internal.hpp"
 #include "text_format_detection/strategies/layout_strategies.hpp"
 
 namespace {
@@ -33,9 +33,9 @@ TEST(Candidates, AcceptanceTest) {
 std::string candidates(std::u16string_view const text, textio::parser::options const& how) {
   textio::Field const sample(text);
   textio::GenericStrategy::TypeAnalyzerOptions const types;
-  textio::reading::SamplingContext context(sample, 100);
+  textio::detection::SamplingContext context(sample, 100);
   auto const lines = std::make_shared<textio::LineReaderStrategy>(how, types);
-  textio::reading::sample_strategy(context, lines, true);
+  textio::detection::sample_strategy(context, lines, true);
   textio::detection::DetectionReport report;
   auto const list = textio::detection::generate_candidates(
       {how, types, *lines->field_array(), context, &report.sampled});

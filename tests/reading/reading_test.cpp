@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 //
-// What the readers make of texts, for callers and for the sampling of strategies.
+// What the readers make of texts, for callers and for samples.
 #include <gtest/gtest.h>
 
 #include "tests/support/errors.hpp"
-#include "tests/support/strategies.hpp"
+#include "tests/support/json.hpp"
 #include "tests/support/table.hpp"
 #include "tests/support/text.hpp"
 #include "text_format_detection/reading/delimited_scanner_internal.hpp"
-#include "text_format_detection/reading/sampler_internal.hpp"
+#include "text_format_detection/reading/read_with_mode_internal.hpp"
 
 namespace {
 
@@ -113,36 +113,6 @@ TEST(FindLineStart, SkipsBlanksAndIgnoredDelimiters) {
     std::u16string const text = row.text(0);
     EXPECT_EQ(reader.find_line_start(Field(text), row.count(1)), row.count(2));
   });
-}
-
-TEST(SampleStrategy, ReadsOnceUpToTheRecordLimit) {
-  support::for_each_row("reading/sampling.tsv", [](support::Row const& row) {
-    How how;
-    options rules;
-    support::read_members(row.with, how, rules);
-    bool const is_fixed = how.mode == StrategyMode::FixedWidth;
-    auto const strategy =
-        is_fixed ? support::make_strategy("fixed_width", rules, {}, rules.column_widths)
-                 : support::make_strategy("delimited", rules, {}, ",");
-    std::u16string const text = row.text(0);
-    Field const sample(text);
-    textio::reading::SamplingContext context(sample, how.records);
-    textio::reading::sample_strategy(context, strategy, false);
-    EXPECT_FALSE(strategy->is_evaluated());
-    EXPECT_EQ(show(*strategy->field_array()), row.cells.at(1));
-    Field const other(u"x");
-    textio::evaluate_strategy(strategy, other, 1);
-    EXPECT_TRUE(strategy->is_evaluated());
-    EXPECT_EQ(show(*strategy->field_array()), row.cells.back()) << "at most once";
-  });
-}
-
-TEST(SampleStrategy, LeavesWhatHasNoReader) {
-  auto const strategy = std::make_shared<textio::GenericStrategy>(
-      options{}, textio::GenericStrategy::TypeAnalyzerOptions{}, StrategyMode{4});
-  Field const sample(u"a,b\nc,d\n");
-  EXPECT_EQ(textio::evaluate_strategy(strategy, sample, 2).num_records, 0U);
-  EXPECT_FALSE(strategy->is_sampled());
 }
 
 }  // namespace

@@ -5,7 +5,7 @@
 
 #include "tests/support/table.hpp"
 #include "tests/support/text.hpp"
-#include "text_format_detection/reading/read_records.hpp"
+#include "text_format_detection/detection/evaluate_strategy.hpp"
 #include "text_format_detection/strategies/layout_strategies.hpp"
 
 namespace {

@@ -8,9 +8,9 @@
 #include "text_format_detection/detection/candidate_characters_internal.hpp"
 #include "text_format_detection/detection/fixed_width_detection_internal.hpp"
 #include "text_format_detection/detection/line_alignment_internal.hpp"
+#include "text_format_detection/detection/sampler_internal.hpp"
 #include "text_format_detection/model/text_constants_internal.hpp"
 #include "text_format_detection/model/text_view_internal.hpp"
-#include "text_format_detection/reading/sampler_internal.hpp"
 #include "text_format_detection/strategies/layout_strategies.hpp"
 
 namespace textio::detection {
@@ -50,7 +50,7 @@ class CandidateBuilder {
   }
 
   void sample(StrategyPtr const& strategy) {
-    reading::sample_strategy(in_.context, strategy, true);
+    sample_strategy(in_.context, strategy, true);
     if (in_.log != nullptr) {
       in_.log->push_back({strategy, CandidateFate::Accepted, RejectionClause::None, {}});
     }

@@ -7,10 +7,10 @@
 #include <vector>
 
 #include "text_format_detection/detection/detection_report.hpp"
+#include "text_format_detection/detection/sampling_context_internal.hpp"
 #include "text_format_detection/model/field_array.hpp"
 #include "text_format_detection/model/options.hpp"
 #include "text_format_detection/platform/type_analyzer_options.hpp"
-#include "text_format_detection/reading/sampling_context_internal.hpp"
 #include "text_format_detection/strategies/generic_strategy.hpp"
 
 namespace textio::detection {
@@ -23,7 +23,7 @@ struct CandidateInput {
   ostrel::io::text::typedetection::TypeAnalyzerOptions const& type_options;
   /// The sample's lines, one field each, as the line reader stored them.
   FieldArray const& lines;
-  reading::SamplingContext& context;
+  SamplingContext& context;
   /// Takes note of every strategy that is sampled, in order; null when nobody asks.
   std::vector<SampledStrategy>* log;
 };

@@ -9,7 +9,7 @@
 
 #include "text_format_detection/detection/candidates_internal.hpp"
 #include "text_format_detection/detection/picker_rules/ranking_internal.hpp"
-#include "text_format_detection/reading/sampler_internal.hpp"
+#include "text_format_detection/detection/sampler_internal.hpp"
 #include "text_format_detection/strategies/layout_strategies.hpp"
 
 namespace textio::detection {
@@ -36,7 +36,7 @@ class Decision {
 
   StrategyPtr make() {
     StrategyPtr const line_reader = std::make_shared<LineReaderStrategy>(options_, type_options_);
-    reading::sample_strategy(context_, line_reader, true);
+    sample_strategy(context_, line_reader, true);
     if (report_ != nullptr) {
       report_->line_reader = line_reader;
     }
@@ -92,7 +92,7 @@ class Decision {
     options.auxiliary_flag = false;
     options.detect_header_lines = false;
     StrategyPtr const strategy = std::make_shared<DelimitedStrategy>(options, type_options_);
-    reading::sample_strategy(context_, strategy, false);
+    sample_strategy(context_, strategy, false);
     return conclude(strategy, Outcome::CommaFallback, reason);
   }
 
@@ -114,7 +114,7 @@ class Decision {
 
   parser::options const& options_;
   ostrel::io::text::typedetection::TypeAnalyzerOptions const& type_options_;
-  reading::SamplingContext context_;
+  SamplingContext context_;
   DetectionReport* report_;
 };
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 //
-// Reading for callers: the reading loops without a strategy, and the sampling of a given strategy.
+// The reading loops for callers: the field limit, and what was consumed.
 #include "text_format_detection/reading/read_records.hpp"
 
 #include <algorithm>
 
-#include "text_format_detection/reading/sampler_internal.hpp"
+#include "text_format_detection/reading/read_with_mode_internal.hpp"
 
 namespace textio {
 
@@ -21,13 +21,6 @@ ReadSummary read_records(parser::options const& options, enums::StrategyMode con
   // A record may count the end mark behind the text as its line ending.
   summary.units_consumed = std::min(summary.units_consumed, text.length());
   return summary;
-}
-
-StrategyValuation const& evaluate_strategy(std::shared_ptr<GenericStrategy> const& strategy,
-                                           Field const& sample, std::size_t const n) {
-  reading::SamplingContext context(sample, n);
-  reading::sample_strategy(context, strategy, false);
-  return strategy->valuation();
 }
 
 }  // namespace textio

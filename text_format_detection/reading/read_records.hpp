@@ -1,18 +1,16 @@
 // SPDX-License-Identifier: MIT
 //
 // Reading with given options, for callers: text for real, block by block, with the caller's own
-// rules; or a sample with a strategy that the caller built.
+// rules.
 #pragma once
 
 #include <cstddef>
-#include <memory>
 
 #include "text_format_detection/export.hpp"
 #include "text_format_detection/model/enums.hpp"
 #include "text_format_detection/model/field.hpp"
 #include "text_format_detection/model/field_array.hpp"
 #include "text_format_detection/model/options.hpp"
-#include "text_format_detection/strategies/generic_strategy.hpp"
 
 namespace textio {
 
@@ -41,13 +39,5 @@ struct ReadSummary {
 TFD_API ReadSummary read_records(parser::options const& options, enums::StrategyMode mode,
                                  Field const& text, std::size_t record_count,
                                  std::size_t line_limit, FieldArray& fields);
-
-/// Samples a strategy that the caller built, with any delimiters, widths or layout, and scores it.
-///
-/// Reads the header lines, if their number is given, and `n` records from the start of the sample.
-/// Does nothing for a strategy that was sampled before but return its score. The sample outlives
-/// the strategy's fields. Throws std::bad_alloc; the strategy is not sampled then.
-TFD_API StrategyValuation const& evaluate_strategy(std::shared_ptr<GenericStrategy> const& strategy,
-                                                   Field const& sample, std::size_t n);
 
 }  // namespace textio

@@ -6,8 +6,8 @@
 #include <string>
 #include <utility>
 
+#include "text_format_detection/detection/evaluate_strategy.hpp"
 #include "text_format_detection/detection/strategy_selector.hpp"
-#include "text_format_detection/reading/read_records.hpp"
 #include "text_format_detection/strategies/layout_strategies.hpp"
 #include "text_import/analysis/readings/unguessed_delimiters_internal.hpp"
 

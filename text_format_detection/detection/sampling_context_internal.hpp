@@ -11,7 +11,7 @@
 #include "text_format_detection/model/field_array.hpp"
 #include "text_format_detection/model/options.hpp"
 
-namespace textio::reading {
+namespace textio::detection {
 
 /// Made once a call. Between samplings `fields` is empty, `limit_fields` false and `max_fields`
 /// unknown; after an error the half-filled array stays until the next sampling or the end of the
@@ -35,4 +35,4 @@ struct SamplingContext {
   std::unique_ptr<std::u16string> whitespace;
 };
 
-}  // namespace textio::reading
+}  // namespace textio::detection
