@@ -13,6 +13,7 @@
 
 #include "tests/text_import/made_data.hpp"
 #include "tests/text_import/tables.hpp"
+#include "text_import/source/notes.hpp"
 
 namespace {
 
@@ -55,6 +56,10 @@ TEST(sample, is_cut_behind_the_last_whole_line_if_the_text_goes_on) {
       OpenOptions options;
       options.sample_bytes = std::stoul(row[1]);
       options.block_bytes = block;
+      std::istringstream endings(row[4]);
+      for (std::string ending; std::getline(endings, ending, ' ');) {
+        options.line_endings.push_back(made::utf16(ending));
+      }
       outcome const read = read_all(row[0], options);
       EXPECT_EQ(read.error, "");
       EXPECT_TRUE(read.sample == made::utf16(row[2])) << testing::PrintToString(read.sample);
@@ -91,6 +96,51 @@ TEST(sample, has_the_same_counts_wherever_they_stand) {
     EXPECT_EQ(read.findings.nuls, 1U);
     EXPECT_EQ(read.findings.decoding.replaced_end_marks, 1U);
   }
+}
+
+std::string noted(std::string const& bytes, OpenOptions const& options = {}) {
+  std::string text;
+  for (std::string const& note : notes(read_all(bytes, options).findings)) {
+    text += note + "\n";
+  }
+  return text;
+}
+
+TEST(notes, tell_what_a_reader_should_know_of_the_text) {
+  EXPECT_EQ(noted("a,b\n"), "");
+  OpenOptions options;
+  options.sample_bytes = 3;
+  EXPECT_EQ(noted("abcd\n", options),
+            "no line ends in the sample, which is a piece of one line; a larger sample may help\n");
+  options.sample_bytes = 100;
+  options.encoding = "UTF-8";
+  EXPECT_EQ(noted(std::string("a\0b\n", 4), options), "the sample holds 1 NUL character\n");
+  EXPECT_EQ(noted(std::string("\0ab\xFF\n\xFE\0", 7), options),
+            "2 bytes without a meaning in UTF-8 replaced by U+FFFD, first at byte 3\n"
+            "the sample holds 2 NUL characters\n");
+  std::string const damaged = made::packed("gzip", made::table_of(2000));
+  EXPECT_NE(noted(damaged.substr(0, damaged.size() - 4)), "");
+}
+
+TEST(text_sample, says_where_the_text_comes_from) {
+  OpenOptions options;
+  options.sample_bytes = 9;
+  options.line_endings = {u";"};
+  std::string const archive = made::zip({{"m.csv",
+                                          "\xEF\xBB\xBF"
+                                          "a\r\nb;c\nd"}});
+  auto const source = TextSource::open(memory_bytes(archive), "-", options);
+  TextSample const sample = source.text_sample();
+  EXPECT_TRUE(sample.text == u"a\r\nb;" && sample.goes_on == source.findings().goes_on);
+  SourceFormat expected{.encoding = "UTF-8",
+                        .has_byte_order_mark = true,
+                        .encoding_origin = Origin::Found,
+                        .compression = "zip",
+                        .member = "m.csv",
+                        .line_endings = {u";"},
+                        .line_endings_origin = Origin::Given,
+                        .line_ending_counts = {0, 1, 0}};
+  EXPECT_TRUE(sample.source == expected);
 }
 
 TEST(stream, goes_on_where_the_sample_ended_with_everything_counted) {

@@ -8,8 +8,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "text_import/source/encoding/binary_content_internal.hpp"
 #include "text_import/source/compression/decompression_internal.hpp"
+#include "text_import/source/encoding/binary_content_internal.hpp"
 #include "text_import/source/encoding/unit_count_internal.hpp"
 
 namespace textimport {
@@ -18,18 +18,35 @@ namespace {
 /// Damage behind text that was delivered does not take that text away.
 bool leaves_text_usable(ImportErrorKind const kind) {
   return kind == ImportErrorKind::DamagedCompression ||
-         kind == ImportErrorKind::TruncatedCompression ||
-         kind == ImportErrorKind::WrongChecksum;
+         kind == ImportErrorKind::TruncatedCompression || kind == ImportErrorKind::WrongChecksum;
 }
 
-/// The length of `text` up to and with its last line ending, 0 without any. A CR at the very end
-/// is none: an LF may follow.
-std::size_t whole_lines(std::u16string_view const text) {
-  if (text.empty()) {
-    return 0;
+/// Whether the ending may be the start of a longer one.
+bool may_go_on(std::u16string const& ending, std::vector<std::u16string> const& endings) {
+  return std::ranges::any_of(endings, [&](std::u16string const& other) {
+    return other.size() > ending.size() && other.starts_with(ending);
+  });
+}
+
+/// The length of `text` up to and with its last line ending, 0 without any. One at the very end
+/// that may go on is none.
+std::size_t whole_lines(std::u16string_view const text,
+                        std::vector<std::u16string> const& endings) {
+  std::u16string last_units;
+  for (std::u16string const& ending : endings) {
+    last_units += ending.back();
   }
-  std::size_t const searched = text.back() == u'\r' ? text.size() - 1 : text.size();
-  return text.substr(0, searched).find_last_of(u"\r\n") + 1;
+  for (std::size_t end = text.find_last_of(last_units) + 1; end > 0;
+       end = text.substr(0, end - 1).find_last_of(last_units) + 1) {
+    bool const is_last = std::ranges::any_of(endings, [&](std::u16string const& ending) {
+      bool const is_whole = end < text.size() || !may_go_on(ending, endings);
+      return is_whole && text.substr(0, end).ends_with(ending);
+    });
+    if (is_last) {
+      return end;
+    }
+  }
+  return 0;
 }
 
 LineEndingCounts count_line_endings(std::u16string_view const text) {
@@ -44,10 +61,11 @@ LineEndingCounts count_line_endings(std::u16string_view const text) {
 }  // namespace
 
 OpenedText::OpenedText(std::unique_ptr<ByteSource> raw, std::string path,
-                         OpenOptions const& options)
+                       OpenOptions const& options)
     : path_(std::move(path)), options_(options) {
   options_.sample_bytes = std::max<std::size_t>(options_.sample_bytes, 1);
   options_.block_bytes = std::max<std::size_t>(options_.block_bytes, 1);
+  std::erase(options_.line_endings, std::u16string());
   DecompressedBytes opened = decompress(std::move(raw), path_, options_, findings_.warnings);
   bytes_ = std::move(opened.bytes);
   findings_.compression = std::move(opened.compression);
@@ -124,10 +142,25 @@ void OpenedText::decode_head(std::string_view const head) {
 void OpenedText::cut_sample() {
   sample_length_ = head_text_.size();
   if (findings_.goes_on) {
-    std::size_t const length = whole_lines(head_text_);
+    std::size_t const length = whole_lines(head_text_, source_format().line_endings);
     findings_.no_line_end = length == 0;
     sample_length_ = length == 0 ? head_text_.size() : length;
   }
+}
+
+SourceFormat OpenedText::source_format() const {
+  SourceFormat source;
+  source.encoding = findings_.encoding.name;
+  source.has_byte_order_mark = findings_.encoding.mark_bytes > 0;
+  source.encoding_origin = options_.encoding.empty() ? Origin::Found : Origin::Given;
+  source.compression = findings_.compression;
+  source.member = findings_.member;
+  if (!options_.line_endings.empty()) {
+    source.line_endings = options_.line_endings;
+    source.line_endings_origin = Origin::Given;
+  }
+  source.line_ending_counts = findings_.line_endings;
+  return source;
 }
 
 std::size_t OpenedText::deliver(char16_t* const room, std::size_t const capacity) {

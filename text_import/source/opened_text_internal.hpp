@@ -29,6 +29,9 @@ class OpenedText {
     return {head_text_.data(), sample_length_};
   }
 
+  /// What is known of the bytes and of the lines.
+  [[nodiscard]] SourceFormat source_format() const;
+
   [[nodiscard]] DecodingCounts const& decoded() const noexcept { return decoder_->counts(); }
 
   /// Writes the next code units of the whole text to `room`, at most `capacity`; 0 at its end.

@@ -46,8 +46,7 @@ std::unique_ptr<ByteSource> open_file_or_archive(std::string& path, std::string&
 
 }  // namespace
 
-TextSource::TextSource(std::shared_ptr<OpenedText> opened) noexcept
-    : opened_(std::move(opened)) {}
+TextSource::TextSource(std::shared_ptr<OpenedText> opened) noexcept : opened_(std::move(opened)) {}
 
 TextSource::TextSource(TextSource&&) noexcept = default;
 TextSource& TextSource::operator=(TextSource&&) noexcept = default;
@@ -61,7 +60,7 @@ TextSource TextSource::open(std::string const& path, OpenOptions const& options)
 }
 
 TextSource TextSource::open(std::unique_ptr<ByteSource> bytes, std::string const& path,
-                              OpenOptions const& options) {
+                            OpenOptions const& options) {
   return TextSource(std::make_shared<OpenedText>(std::move(bytes), path, options));
 }
 
@@ -69,9 +68,13 @@ textio::Field TextSource::sample() const noexcept {
   return opened_->sample();
 }
 
+TextSample TextSource::text_sample() const {
+  return {opened_->sample(), findings().goes_on, opened_->source_format()};
+}
+
 ostrel::io::text::stream::TextStream TextSource::stream() {
   if (std::exchange(is_streamed_, true)) {
-    throw std::logic_error("text_source: the text can be read once");
+    throw std::logic_error("TextSource: the text can be read once");
   }
   return ostrel::io::text::stream::TextStream(
       [opened = opened_](char16_t* const room, std::size_t const capacity) {

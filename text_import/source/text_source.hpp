@@ -14,6 +14,8 @@
 #include "text_format_detection/model/field.hpp"
 #include "text_format_detection/platform/text_stream.hpp"
 #include "text_import/export.hpp"
+#include "text_import/format/format.hpp"
+#include "text_import/format/text_sample.hpp"
 #include "text_import/source/bytes/byte_source.hpp"
 #include "text_import/source/encoding/encoding.hpp"
 
@@ -34,13 +36,8 @@ struct OpenOptions {
   /// Decompressed data beyond their first 16 MiB may be at most this many times larger than the
   /// compressed data read for them; 0: no limit.
   std::uint64_t ratio_limit = 2000;
-};
-
-/// Line endings by kind. A CR LF is one of its own kind and not counted as CR or LF.
-struct LineEndingCounts {
-  std::uint64_t lf = 0;
-  std::uint64_t crlf = 0;
-  std::uint64_t cr = 0;
+  /// What ends a line, where the sample is cut. Empty: CR LF, LF and CR.
+  std::vector<std::u16string> line_endings;
 };
 
 /// What decoding had to replace by U+FFFD, so that no text is taken for something it is not.
@@ -104,7 +101,7 @@ class TEXT_IMPORT_API TextSource {
 
   /// The same for bytes from elsewhere; `path` is what messages call them.
   [[nodiscard]] static TextSource open(std::unique_ptr<ByteSource> bytes, std::string const& path,
-                                        OpenOptions const& options = {});
+                                       OpenOptions const& options = {});
 
   TextSource(TextSource&&) noexcept;
   TextSource& operator=(TextSource&&) noexcept;
@@ -112,11 +109,16 @@ class TEXT_IMPORT_API TextSource {
   TextSource& operator=(TextSource const&) = delete;
   ~TextSource();
 
-  /// The head of the text. When the text goes on it is cut behind the last whole line; a CR at the
-  /// very end of the head does not count as one, because an LF may follow. If no line ends in the
-  /// head it is all of it (findings().no_line_end), cut in front of a character that is not whole.
-  /// Holds no U+FFFF and no byte-order mark.
+  /// The head of the text. When the text goes on it is cut behind the last whole line; a line
+  /// ending at the very end of the head does not count where it may be the start of a longer one,
+  /// as a CR may be in front of an LF. If no line ends in the head it is all of it
+  /// (findings().no_line_end), cut in front of a character that is not whole. Holds no U+FFFF and
+  /// no byte-order mark.
   [[nodiscard]] textio::Field sample() const noexcept;
+
+  /// The same as the analysis takes it, with what is known of where it comes from. A view: it stays
+  /// valid as long as sample() does.
+  [[nodiscard]] TextSample text_sample() const;
 
   /// The whole text from its first character on: first the sample's, then what follows, decoded
   /// as it is asked for. The text can be read once: throws std::logic_error at the second call.
