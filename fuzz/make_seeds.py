@@ -102,13 +102,13 @@ def seeds():
         yield "pick_strategy", name, with_choices() + text
         yield "fixed_stream", name, with_choices(3) + text[:200]
         yield "record_scan", name, with_choices(i % 4) + text[:300]
-        yield "survey", name, with_choices() + text
+        yield "analysis", name, with_choices() + text
     comments = (0, 0, 1, 2, 2, *b"/*", 2, *b"*/")  # the third of the options that are drawn
     yield "pick_strategy", "with-comments", with_choices(0, *comments) + b"/* a\n b */1,2\n3,4\n" * 9
     yield "record_scan", "with-comments", with_choices(0, 0, 0, 0, *comments) + b"/* a\n b */1,2\n3,4\n" * 9
     for i, text in enumerate(TABLES):
-        yield "survey", f"table-{i}", with_choices() + text.encode("latin-1")
-        yield "survey", f"given-{i}", with_choices(0, 1 << i % 7, i % 4, 1 + i) + text.encode("latin-1")
+        yield "analysis", f"table-{i}", with_choices() + text.encode("latin-1")
+        yield "analysis", f"given-{i}", with_choices(0, 1 << i % 7, i % 4, 1 + i) + text.encode("latin-1")
     for mode, rules in enumerate((2, 1, 5, 6)):
         layout = (0, 0, 0, 0, 0, 0, 0, 1, 3, 3, 4, 5, 0, 0, 0, 0, 0, rules % 3, rules % 3, rules % 3, rules % 3, rules)
         yield "record_scan", f"rules-{rules}", with_choices(mode % 3, 0, 0, 0, *layout) + b",a,,b,\n12345678901\n\n12\n"
