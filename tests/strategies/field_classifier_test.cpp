@@ -29,6 +29,13 @@ TEST(FieldClassifier, Types) {
   });
 }
 
+// The table's other column is that of the analysis, which is more lenient.
+TEST(FieldClassifier, TypesBesideLenientOnes) {
+  support::for_each_row("text_import/values/values.tsv", [](support::Row const& row) {
+    EXPECT_EQ(type_of({}, row.text(0)), row.cells.at(1));
+  });
+}
+
 TEST(FieldClassifier, LongTexts) {
   std::size_t const many = 2'000'000;
   std::u16string const ones(many, u'1');

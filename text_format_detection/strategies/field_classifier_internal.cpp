@@ -25,7 +25,7 @@ ColumnType classify_without_digits(std::u16string_view const text) noexcept {
   if (platform::equals_ignoring_case(text, u"nat")) {
     return ColumnType::DateTime;
   }
-  if (is_nan_or_inf(text)) {
+  if (is_nan(text) || is_infinity<StrictValues>(text)) {
     return ColumnType::Number;
   }
   return text == u"," || text == u"|" || text == u";" ? ColumnType::Delimiter : ColumnType::Text;
@@ -66,11 +66,11 @@ bool reads_as_number(TypeAnalyzerOptions const& options, std::u16string_view con
 
 std::size_t duration_groups(TypeAnalyzerOptions const& options, std::u16string_view const text) {
   if (!options.replace_characters) {
-    return count_duration_groups(text);
+    return count_duration_groups<StrictValues>(text);
   }
   std::u16string copy(text);
   replace_members(copy, options);
-  return count_duration_groups(copy);
+  return count_duration_groups<StrictValues>(copy);
 }
 
 /// The date-time test, with a refusal for every error but a lack of memory.
@@ -84,16 +84,6 @@ bool reads_as_datetime(TypeAnalyzerOptions const& options, std::u16string_view c
   }
 }
 
-/// A time of day and a date, in either order, with spaces between: the format covers the date only.
-bool is_time_beside_date(TypeAnalyzerOptions const& options, std::u16string_view const text) {
-  std::size_t const space = std::min(text.find(u' '), text.size());
-  std::u16string_view const first = text.substr(0, space);
-  std::size_t const next = std::min(text.find_first_not_of(u' ', space), text.size());
-  std::u16string_view const second = text.substr(next);
-  return (is_time_of_day(first) && reads_as_datetime(options, second)) ||
-         (is_time_of_day(second) && reads_as_datetime(options, first));
-}
-
 }  // namespace
 
 ColumnType classify_field(TypeAnalyzerOptions const& options, std::u16string_view const text) {
@@ -103,10 +93,10 @@ ColumnType classify_field(TypeAnalyzerOptions const& options, std::u16string_vie
   if (reads_as_number(options, text)) {
     return ColumnType::Number;
   }
-  if (is_hexadecimal(text)) {
+  if (is_hexadecimal<StrictValues>(text)) {
     return ColumnType::Hexadecimal;
   }
-  if (is_binary(text)) {
+  if (is_binary<StrictValues>(text)) {
     return ColumnType::Binary;
   }
   if (std::size_t const groups = duration_groups(options, text); groups > 0) {
@@ -116,7 +106,10 @@ ColumnType classify_field(TypeAnalyzerOptions const& options, std::u16string_vie
     bool const has_time = text.find(u':') != std::u16string_view::npos;
     return has_time ? ColumnType::DateTime : ColumnType::Date;
   }
-  if (is_time_beside_date(options, text)) {
+  // A format covers the date only.
+  if (is_time_beside_date<StrictValues>(text, [&options](std::u16string_view const part) {
+        return reads_as_datetime(options, part);
+      })) {
     return ColumnType::DateTime;
   }
   // Here a text that holds a number is one that holds a digit: any digit begins a number.

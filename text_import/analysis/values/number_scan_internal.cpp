@@ -2,17 +2,16 @@
 #include "text_import/analysis/values/number_scan_internal.hpp"
 
 #include <array>
-#include <cstddef>
+
+#include "text_format_detection/platform/ascii_internal.hpp"
+#include "text_format_detection/strategies/value_grammar_internal.hpp"
 
 namespace textimport::analysis {
 
 namespace {
 
+using textio::platform::is_digit;
 using view = std::u16string_view;
-
-constexpr bool is_digit(char16_t const c) noexcept {
-  return c >= u'0' && c <= u'9';
-}
 
 bool is_one_of(char16_t const c, view const set) noexcept {
   return set.find(c) != view::npos;
@@ -21,18 +20,23 @@ bool is_one_of(char16_t const c, view const set) noexcept {
 /// Takes a number apart from left to right.
 class NumberScan {
  public:
-  explicit NumberScan(view const text) noexcept : rest_(text) {}
+  NumberScan(view const text, NumberRules const& rules) noexcept : rest_(text), rules_(rules) {}
 
   std::optional<ScannedNumber> run() noexcept {
-    drop_one_of(u"+-\u2212");
-    drop_one_of(u"$\u20AC\u00A3\u00A5");
-    drop_one_of(u"+-");
+    if (!is_digit(rest_.front())) {
+      drop_one_of(u"+-\u2212");
+      drop_one_of(u"$\u20AC\u00A3\u00A5");
+      drop_one_of(u"+-");
+    }
     bool const has_digits = take_groups();
-    if (!has_digits || !read_marks() || !take_exponent()) {
+    if (!has_digits || !read_marks()) {
       return std::nullopt;
     }
-    drop_one_of(u" ");
-    drop_one_of(u"%\u2030\u20AC$");
+    take_exponent();
+    if (!rest_.empty()) {
+      drop_one_of(u" ");
+      drop_one_of(u"%\u2030\u20AC$");
+    }
     return rest_.empty() ? std::optional(number_) : std::nullopt;
   }
 
@@ -46,10 +50,7 @@ class NumberScan {
   }
 
   std::size_t take_digits() noexcept {
-    std::size_t count = 0;
-    while (count < rest_.size() && is_digit(rest_[count])) {
-      ++count;
-    }
+    std::size_t const count = textio::platform::leading_digits(rest_);
     rest_.remove_prefix(count);
     return count;
   }
@@ -68,32 +69,32 @@ class NumberScan {
     return has_digits;
   }
 
-  /// A blank belongs to a number only with a digit behind it.
+  /// A mark of thousands belongs to a number only with a digit behind it.
   [[nodiscard]] bool is_mark() const noexcept {
     char16_t const c = rest_.front();
-    if (c == u'.' || c == u',') {
-      return true;
-    }
-    return is_one_of(c, u" '\u00A0\u202F\u2019") && rest_.size() > 1 && is_digit(rest_[1]);
+    return is_one_of(c, rules_.decimal_marks) ||
+           (is_one_of(c, rules_.thousands_marks) && rest_.size() > 1 && is_digit(rest_[1]));
   }
 
   /// Groups of a number in thousands: up to three digits, then twos (in the Indian manner) or
-  /// threes, the last one of `end` a three.
+  /// threes, the last one of `end` a three; the same mark between all of them.
   [[nodiscard]] bool are_thousands(std::size_t const end) const noexcept {
-    if (groups_[0] == 0 || groups_[0] > 3 || groups_[end] != 3) {
+    if (groups_[0] == 0 || groups_[0] > 3 || groups_[end] != 3 ||
+        !is_one_of(marks_[0], rules_.thousands_marks)) {
       return false;
     }
     for (std::size_t i = 1; i < end; ++i) {
-      if (groups_[i] != 3 && groups_[i] != 2) {
-        return false;
-      }
-    }
-    for (std::size_t i = 1; i < end; ++i) {
-      if (marks_[i] != marks_[0]) {
+      if ((groups_[i] != 3 && groups_[i] != 2) || marks_[i] != marks_[0]) {
         return false;
       }
     }
     return true;
+  }
+
+  /// Whether the last mark may stand before the decimals.
+  [[nodiscard]] bool are_decimals() const noexcept {
+    return is_one_of(marks_[num_marks_ - 1], rules_.decimal_marks) &&
+           groups_[num_marks_] <= rules_.max_decimals;
   }
 
   /// What the marks between the groups mean; false when they make no number.
@@ -105,40 +106,38 @@ class NumberScan {
     if (num_marks_ == 1) {
       return read_single_mark(last);
     }
-    if (last == marks_[0] && are_thousands(num_marks_)) {
+    if (last == marks_[0]) {
       number_.marks.thousands = last;
-      return true;
-    }
-    bool const is_decimal = (last == u'.' || last == u',') && last != marks_[0];
-    if (!is_decimal || !are_thousands(num_marks_ - 1)) {
-      return false;
+      return are_thousands(num_marks_);
     }
     number_.is_integer = false;
     number_.marks = {last, marks_[0], false};
-    return true;
+    return are_decimals() && are_thousands(num_marks_ - 1);
   }
 
+  /// Of what may be both, a point stands before decimals and a comma between thousands.
   bool read_single_mark(char16_t const mark) noexcept {
-    if (mark == u'.' || (mark == u',' && groups_[1] > 0 && !are_thousands(1))) {
-      number_.is_integer = false;
-      number_.marks = {mark, 0, are_thousands(1) && !number_.leading_zeros && groups_[0] > 0};
-      return true;
+    bool const groups = are_thousands(1);
+    bool const decimals = are_decimals() && (mark != u',' || !groups) &&
+                          (mark != u',' || groups_[1] > 0 || rules_.mark_is_known);
+    number_.is_integer = !decimals;
+    if (decimals) {
+      number_.marks = {mark, 0, groups && !number_.leading_zeros};
+    } else {
+      number_.marks = {0, mark, are_decimals()};
     }
-    number_.marks = {0, mark, mark == u','};
-    return are_thousands(1);
+    return decimals || groups;
   }
 
-  bool take_exponent() noexcept {
-    if (rest_.empty() || !is_one_of(rest_.front(), u"eEdD")) {
-      return true;
-    }
-    rest_.remove_prefix(1);
-    drop_one_of(u"+-");
-    number_.is_integer = false;
-    return take_digits() > 0;
+  void take_exponent() noexcept {
+    std::size_t const length =
+        textio::strategies::length_of_exponent(rest_, rules_.exponent_characters);
+    number_.is_integer = number_.is_integer && length == 0;
+    rest_.remove_prefix(length);
   }
 
   view rest_;
+  NumberRules const& rules_;
   std::array<std::size_t, max_groups> groups_{};
   std::array<char16_t, max_groups> marks_{};
   std::size_t num_marks_ = 0;
@@ -147,11 +146,11 @@ class NumberScan {
 
 }  // namespace
 
-std::optional<ScannedNumber> scan_number(view const text) noexcept {
+std::optional<ScannedNumber> scan_number(view const text, NumberRules const& rules) noexcept {
   if (text.empty() || text.front() > 0x20AC || (text.front() >= u'A' && text.front() <= u'z')) {
     return std::nullopt;  // most values that are no numbers
   }
-  return NumberScan(text).run();
+  return NumberScan(text, rules).run();
 }
 
 }  // namespace textimport::analysis

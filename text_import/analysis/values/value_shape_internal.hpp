@@ -38,7 +38,7 @@ struct NumberMarks {
 
 struct ValueLook {
   ValueShape shape = ValueShape::Empty;
-  NumberMarks marks;          ///< of an integer or a real number
+  NumberMarks marks;           ///< of an integer or a real number
   bool quoted = false;         ///< stood in quotes, which were taken off
   bool leading_zeros = false;  ///< an integer with zeros in front: a code rather than a number
 };

@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: MIT
+//
+// The order of the questions matters for two reasons: most values of real files leave at the first
+// ones, and some texts would pass several tests.
+#include "text_import/analysis/values/value_grammar_internal.hpp"
+
+#include <algorithm>
+#include <cstddef>
+
+#include "text_format_detection/platform/ascii_internal.hpp"
+#include "text_format_detection/platform/datetime.hpp"
+#include "text_format_detection/strategies/value_grammar_internal.hpp"
+#include "text_import/analysis/lines/line_index.hpp"
+#include "text_import/analysis/values/lenient_values_internal.hpp"
+#include "text_import/analysis/values/text_shape_internal.hpp"
+#include "text_import/analysis/values/value_words_internal.hpp"
+
+namespace textimport::analysis {
+
+namespace {
+
+namespace grammar = textio::strategies;
+using view = std::u16string_view;
+
+NumberRules number_rules(ValueRequest const& request) {
+  NumberRules rules;
+  auto const leave = [](std::u16string& marks, char16_t const mark) {
+    marks.assign(mark != 0 ? 1 : 0, mark);
+  };
+  if (request.thousands_mark) {
+    std::erase(rules.decimal_marks, *request.thousands_mark);
+    leave(rules.thousands_marks, *request.thousands_mark);
+  }
+  if (request.decimal_mark) {
+    std::erase(rules.thousands_marks, *request.decimal_mark);
+    leave(rules.decimal_marks, *request.decimal_mark);
+  }
+  rules.mark_is_known = request.decimal_mark.has_value();
+  if (!request.exponent_characters.empty()) {
+    rules.exponent_characters = request.exponent_characters;
+  }
+  rules.max_decimals = request.max_decimals.value_or(rules.max_decimals);
+  return rules;
+}
+
+/// The pattern's letters outside of quotes: whether it has any of a set.
+bool asks_for(view const pattern, view const letters) noexcept {
+  bool in_quotes = false;
+  return std::ranges::any_of(pattern, [&](char16_t const c) {
+    in_quotes = in_quotes != (c == u'\'');
+    return !in_quotes && letters.find(c) != view::npos;
+  });
+}
+
+/// A time of day alone is a duration like any other.
+ValueShape shape_of_pattern(view const pattern) noexcept {
+  if (!asks_for(pattern, u"HhmsSa")) {
+    return ValueShape::Date;
+  }
+  return asks_for(pattern, u"yuMdE") ? ValueShape::DateTime : ValueShape::Duration;
+}
+
+bool is_datetime(view const text, std::u16string const& pattern) {
+  return ostrel::io::text::typeconversion::is_datetime(textio::Field(text), pattern);
+}
+
+bool may_be_date(view const text) noexcept {
+  return text.size() >= 6 && text.size() <= 48 &&
+         std::ranges::any_of(text, textio::platform::is_digit) &&
+         text.find_first_of(u"-/. :T") != view::npos;
+}
+
+/// A real and an imaginary part, or the latter alone.
+bool is_complex(view text, NumberRules const& rules) noexcept {
+  if (text.size() < 2 || !grammar::is_imaginary_unit(text.substr(text.size() - 1))) {
+    return false;
+  }
+  text.remove_suffix(1);
+  std::size_t const sign = text.find_last_of(u"+-");
+  if (sign == view::npos || sign == 0) {
+    return scan_number(text, rules).has_value();
+  }
+  return scan_number(text.substr(0, sign), rules) && scan_number(text.substr(sign), rules);
+}
+
+}  // namespace
+
+ValueGrammar::ValueGrammar(char16_t const quote, ValueRequest const& request)
+    : quote_(quote),
+      numbers_(number_rules(request)),
+      missing_words_(request.missing_words),
+      date_pattern_(request.date_pattern),
+      shape_of_pattern_(shape_of_pattern(request.date_pattern)),
+      leading_character_(request.leading_character),
+      embedded_numbers_(request.embedded_numbers),
+      keeps_blanks_(request.keeps_blanks) {}
+
+/// Empty for what the pattern does not take.
+ValueShape ValueGrammar::shape_by_pattern(view const text) const {
+  auto const is_date = [this](view const part) { return is_datetime(part, date_pattern_); };
+  if (is_date(text)) {
+    return shape_of_pattern_;
+  }
+  bool const has_time = shape_of_pattern_ == ValueShape::Date &&
+                        grammar::is_time_beside_date<LenientValues>(text, is_date);
+  return has_time ? ValueShape::DateTime : ValueShape::Empty;
+}
+
+ValueShape ValueGrammar::shape_of_no_number(view const text, char16_t const quote) const {
+  if (!missing_words_ && is_usual_missing_word(text)) {
+    return ValueShape::Missing;
+  }
+  if (grammar::is_infinity<LenientValues>(text) || (missing_words_ && grammar::is_nan(text))) {
+    return ValueShape::Real;
+  }
+  if (is_boolean_word(text)) {
+    return ValueShape::Boolean;
+  }
+  if (!textio::platform::is_letter(text.front())) {
+    if (grammar::count_duration_groups<LenientValues>(text) > 0) {
+      return ValueShape::Duration;
+    }
+    if (grammar::is_hexadecimal<LenientValues>(text)) {
+      return ValueShape::Hexadecimal;
+    }
+    if (grammar::is_binary<LenientValues>(text)) {
+      return ValueShape::Binary;
+    }
+  }
+  if (is_complex(text, numbers_)) {
+    return ValueShape::ComplexNumber;
+  }
+  if (date_pattern_.empty() && may_be_date(text) && is_datetime(text, date_pattern_)) {
+    return text.find(u':') == view::npos ? ValueShape::Date : ValueShape::DateTime;
+  }
+  if (embedded_numbers_ && std::ranges::any_of(text, textio::platform::is_digit)) {
+    return ValueShape::Real;
+  }
+  return shape_of_text(text, quote);
+}
+
+ValueLook ValueGrammar::look_inside(view const text, char16_t const quote) const {
+  ValueLook look;
+  if (text.empty()) {
+    return look;
+  }
+  if (missing_words_ && std::ranges::find(*missing_words_, text) != missing_words_->end()) {
+    look.shape = ValueShape::Missing;
+    return look;
+  }
+  if (!date_pattern_.empty()) {
+    look.shape = shape_by_pattern(text);
+    if (look.shape != ValueShape::Empty) {
+      return look;
+    }
+  }
+  if (auto const number = scan_number(text, numbers_)) {
+    look.shape = number->is_integer ? ValueShape::Integer : ValueShape::Real;
+    look.marks = number->marks;
+    look.leading_zeros = number->is_integer && number->leading_zeros;
+  } else {
+    look.shape = shape_of_no_number(text, quote);
+  }
+  return look;
+}
+
+view ValueGrammar::value_of(view const field, char16_t const quote) const noexcept {
+  auto const strip = [this](view const text) { return keeps_blanks_ ? text : trimmed(text); };
+  view text = strip(field);
+  if (quote != 0 && text.size() >= 2 && text.front() == quote && text.back() == quote) {
+    text = strip(text.substr(1, text.size() - 2));
+  }
+  if (leading_character_ != 0 && text.starts_with(leading_character_)) {
+    text = strip(text.substr(1));
+  }
+  return text;
+}
+
+ValueLook ValueGrammar::look_at(view const field, char16_t const quote) const {
+  view const text = keeps_blanks_ ? field : trimmed(field);
+  bool const opens = quote != 0 && text.starts_with(quote);
+  ValueLook look = look_inside(value_of(text, quote), quote);
+  look.quoted = opens && text.size() >= 2 && text.back() == quote;
+  if (opens && !look.quoted) {
+    look.shape = ValueShape::Broken;  // opened, and closed somewhere inside
+  }
+  if (look.quoted && look.shape == ValueShape::Broken) {
+    look.shape = ValueShape::Phrase;  // that is what the quotes are for
+  }
+  return look;
+}
+
+view unquoted(view const field, char16_t const quote) noexcept {
+  view const text = trimmed(field);
+  bool const is_quoted =
+      quote != 0 && text.size() >= 2 && text.front() == quote && text.back() == quote;
+  return is_quoted ? trimmed(text.substr(1, text.size() - 2)) : text;
+}
+
+ValueLook look_at(view const field, char16_t const quote) {
+  static ValueGrammar const usual(0, {});
+  return usual.look_at(field, quote);
+}
+
+}  // namespace textimport::analysis
