@@ -13,28 +13,11 @@
 #include <fmt/core.h>
 
 #include "cli/usage_error.hpp"
+#include "text_import/format/edit_distance.hpp"
 
 namespace cli {
 
 namespace {
-
-/// The number of single-character edits between two words.
-std::size_t edit_distance(std::string_view const a, std::string_view const b) {
-  std::vector<std::size_t> row(b.size() + 1);
-  for (std::size_t j = 0; j <= b.size(); ++j) {
-    row[j] = j;
-  }
-  for (std::size_t i = 0; i < a.size(); ++i) {
-    std::size_t diagonal = row[0];
-    row[0] = i + 1;
-    for (std::size_t j = 0; j < b.size(); ++j) {
-      std::size_t const change = diagonal + (a[i] == b[j] ? 0 : 1);
-      diagonal = row[j + 1];
-      row[j + 1] = std::min({change, row[j] + 1, row[j + 1] + 1});
-    }
-  }
-  return row.back();
-}
 
 /// The option whose name is nearest to a wrong one, as " (did you mean ...?)", or nothing.
 std::string suggestion(std::string_view word) {
@@ -43,7 +26,7 @@ std::string suggestion(std::string_view word) {
   std::size_t best_distance = 4;  // further away than that is no typing mistake
   for (OptionSpec const& candidate : options()) {
     std::string const name = flag(candidate.option);
-    std::size_t const distance = edit_distance(word, name);
+    std::size_t const distance = textimport::edit_distance(word, name);
     if (distance < best_distance && distance < name.size() / 2) {
       best = name;
       best_distance = distance;
@@ -76,7 +59,7 @@ std::vector<std::string> operands(std::vector<std::string> words) {
   auto const mark = std::ranges::find(words, "--");
   for (auto word = words.begin(); word != mark; ++word) {
     if (word->size() > 1 && word->front() == '-') {
-      throw usage_error(fmt::format("unknown option {}{}", *word, suggestion(*word)));
+      throw UsageError(fmt::format("unknown option {}{}", *word, suggestion(*word)));
     }
   }
   if (mark != words.end()) {
@@ -100,32 +83,33 @@ void check_counts(Arguments const& arguments) {
   for (auto const& [option, values] : arguments.given) {
     OptionSpec const& row = spec(option);
     if (takes_value(row) && !row.repeatable && values.size() > 1) {
-      throw usage_error(fmt::format("{} is given {} times, as {} and {}: give it once",
-                                    flag(option), values.size(), values[0], values[1]));
+      throw UsageError(fmt::format("{} is given {} times, as {} and {}: give it once", flag(option),
+                                   values.size(), values[0], values[1]));
     }
     if (!takes_value(row) && std::ranges::any_of(values, [](auto& v) { return v != "true"; })) {
-      throw usage_error(fmt::format("{} takes no value", flag(option)));
+      throw UsageError(fmt::format("{} takes no value", flag(option)));
     }
   }
 }
 
 /// Takes the command's name off the words, if there is one.
-Command take_command(std::vector<std::string>& words) {
-  if (!words.empty()) {
-    auto const found = std::ranges::find(commands(), words.front(), &CommandSpec::name);
-    if (found != commands().end()) {
-      words.erase(words.begin());
-      return found->command;
-    }
+void take_command(std::vector<std::string>& words, Arguments& arguments) {
+  if (words.empty()) {
+    return;
   }
-  return Command::Detect;
+  auto const found = std::ranges::find(commands(), words.front(), &CommandSpec::name);
+  if (found != commands().end()) {
+    arguments.command = found->command;
+    arguments.names_command = true;
+    words.erase(words.begin());
+  }
 }
 
 }  // namespace
 
 Arguments parse_arguments(std::vector<std::string> words) {
   Arguments arguments;
-  arguments.command = take_command(words);
+  take_command(words, arguments);
   CLI::App app;
   app.set_help_flag();
   add_options(app, arguments);
@@ -137,13 +121,22 @@ Arguments parse_arguments(std::vector<std::string> words) {
     app.parse(std::move(words));
   } catch (CLI::ArgumentMismatch const& error) {  // "--name: ...", for a value that is not there
     std::string_view const text = error.what();
-    throw usage_error(fmt::format("{} needs a value", text.substr(0, text.find(':'))));
+    throw UsageError(fmt::format("{} needs a value", text.substr(0, text.find(':'))));
   } catch (CLI::ParseError const& error) {
-    throw usage_error(error.what());
+    throw UsageError(error.what());
   }
   arguments.operands = operands(app.remaining());
   check_counts(arguments);
   return arguments;
+}
+
+std::string near_command(std::string_view const word) {
+  auto const is_near = [&](CommandSpec const& command) {
+    return textimport::edit_distance(word, command.name) <
+           std::min<std::size_t>(3, command.name.size() / 2);
+  };
+  auto const found = std::ranges::find_if(commands(), is_near);
+  return found == commands().end() ? std::string() : std::string(found->name);
 }
 
 }  // namespace cli

@@ -10,12 +10,9 @@ namespace cli {
 
 namespace {
 
-std::string command_names() {
-  std::string names;
-  for (CommandSpec const& command : commands()) {
-    names += (names.empty() ? "" : " ") + std::string(command.name);
-  }
-  return names;
+/// The names of the commands, apart by blanks.
+std::string command_words() {
+  return fmt::format("{}", fmt::join(command_names(), " "));
 }
 
 /// The option by both of its names, with `between` them.
@@ -71,20 +68,22 @@ _text_format() {{
     front=${{COMP_WORDS[COMP_CWORD-2]}}
   fi
   case $front in
-{}  esac
+{0}  esac
   if [[ $word == -* ]]; then
-    mapfile -t COMPREPLY < <(compgen -W '{}' -- "$word")
+    mapfile -t COMPREPLY < <(compgen -W '{1}' -- "$word")
   elif [[ ${{COMP_WORDS[1]}} == generate && $COMP_CWORD -eq 2 ]]; then
-    mapfile -t COMPREPLY < <(compgen -W '{}' -- "$word")
+    mapfile -t COMPREPLY < <(compgen -W '{2}' -- "$word")
+  elif [[ ${{COMP_WORDS[1]}} == help && $COMP_CWORD -eq 2 ]]; then
+    mapfile -t COMPREPLY < <(compgen -W '{3}' -- "$word")
   elif [[ $COMP_CWORD -eq 1 ]]; then
-    mapfile -t COMPREPLY < <(compgen -W '{}' -- "$word"; compgen -f -- "$word")
+    mapfile -t COMPREPLY < <(compgen -W '{3}' -- "$word"; compgen -f -- "$word")
   else
     mapfile -t COMPREPLY < <(compgen -f -- "$word")
   fi
 }}
 complete -o filenames -F _text_format text-format
 )",
-                     branches, flags, fmt::join(generate_kinds(), " "), command_names());
+                     branches, flags, fmt::join(generate_kinds(), " "), command_words());
 }
 
 std::string zsh_completion() {
@@ -111,20 +110,22 @@ std::string zsh_completion() {
   return fmt::format(R"(#compdef text-format
 # Completion of text-format for zsh; made by: text-format generate zsh
 _text_format_first() {{
-  _alternative 'commands:command:({})' 'files:file:_files'
+  _alternative 'commands:command:({0})' 'files:file:_files'
 }}
 _text_format_rest() {{
   if [[ $words[2] == generate ]]; then
-    compadd {}
+    compadd {1}
+  elif [[ $words[2] == help ]]; then
+    compadd {0}
   else
     _files
   fi
 }}
 _arguments -s \
-{}  '1:command or file:_text_format_first' \
+{2}  '1:command or file:_text_format_first' \
   '*:file:_text_format_rest'
 )",
-                     command_names(), fmt::join(generate_kinds(), " "), specs);
+                     command_words(), fmt::join(generate_kinds(), " "), specs);
 }
 
 std::string fish_completion() {
@@ -136,6 +137,8 @@ std::string fish_completion() {
   text +=
       fmt::format("complete -c text-format -n '__fish_seen_subcommand_from generate' -f -a '{}'\n",
                   fmt::join(generate_kinds(), " "));
+  text += fmt::format("complete -c text-format -n '__fish_seen_subcommand_from help' -f -a '{}'\n",
+                      command_words());
   for (OptionSpec const& row : options()) {
     std::string line = "complete -c text-format";
     line += row.letter == 0 ? "" : fmt::format(" -s {}", row.letter);

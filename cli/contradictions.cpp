@@ -3,6 +3,10 @@
 #include "cli/contradictions.hpp"
 
 #include <algorithm>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
 
 #include <fmt/format.h>
 
@@ -12,19 +16,27 @@ namespace cli {
 
 namespace {
 
-using textio::enums::StrategyMode;
+using textimport::Layout;
+using textimport::Request;
+
+constexpr std::string_view one_meaning = "one character cannot mean both";
 
 /// An option and its value as they were typed: --layout lines.
 std::string typed(Arguments const& arguments, Option const option) {
-  return flag(option) + " " + arguments.given.at(option).front();
+  return flag(option) + " " + arguments.value(option);
+}
+
+/// The same, or what holds where the option is not given.
+std::string typed_or(Arguments const& arguments, Option const option, std::string_view usual) {
+  return arguments.has(option) ? typed(arguments, option) : std::string(usual);
 }
 
 [[noreturn]] void refuse(std::string const& first, std::string const& second,
                          std::string_view const why) {
-  throw usage_error(fmt::format("{} contradicts {}: {}", first, second, why));
+  throw UsageError(fmt::format("{} contradicts {}: {}", first, second, why));
 }
 
-/// What names a layout: --delimiter, --widths or --layout.
+/// What names a layout: --layout, --delimiter or --widths.
 Option layout_option(Arguments const& arguments) {
   for (Option const option : {Option::Layout, Option::Delimiter}) {
     if (arguments.has(option)) {
@@ -34,127 +46,165 @@ Option layout_option(Arguments const& arguments) {
   return Option::Widths;
 }
 
-void check_layout(Arguments const& arguments, Settings const& settings) {
+void check_layout(Arguments const& arguments, Request const& request) {
   bool const delimiter = arguments.has(Option::Delimiter);
   bool const widths = arguments.has(Option::Widths);
   if (delimiter && widths) {
     refuse("--delimiter", "--widths", "give one of them");
   }
-  if (delimiter && settings.layout && settings.layout != StrategyMode::Delimited) {
+  if (delimiter && request.layout && request.layout != Layout::Delimited) {
     refuse("--delimiter", typed(arguments, Option::Layout), "only delimited text has delimiters");
   }
-  if (widths && settings.layout && settings.layout != StrategyMode::FixedWidth) {
+  if (widths && request.layout && request.layout != Layout::FixedWidth) {
     refuse("--widths", typed(arguments, Option::Layout), "only fixed-width text has widths");
   }
 }
 
-/// Rules for delimiters and for columns, where the layout has none of them.
-void check_rules(Arguments const& arguments, Settings const& settings) {
-  auto const layout = implied_layout(settings);
-  if (!layout) {
-    return;
-  }
-  std::string const named = flag(layout_option(arguments));
-  bool const delimited = layout == StrategyMode::Delimited;
-  bool const aligned = layout == StrategyMode::SpaceAligned;
-  for (Option const rule : {Option::Consecutive, Option::Leading, Option::Trailing}) {
-    if (arguments.has(rule) && !delimited && !aligned) {
-      refuse(typed(arguments, rule), named, "this layout has no delimiters");
-    }
-  }
-  if (arguments.has(Option::PartialField) && layout != StrategyMode::FixedWidth) {
-    refuse(typed(arguments, Option::PartialField), named, "this layout has no column widths");
-  }
-  if (!aligned) {
-    return;
-  }
+/// Runs of blanks leave no choice.
+void check_rules_for_blanks(Arguments const& arguments) {
   std::string const space_aligned = "--layout space-aligned";
-  if (arguments.has(Option::Consecutive) && settings.parsing.consecutive_delimiters_rule !=
-                                                textio::enums::ConsecutiveDelimitersRule::Join) {
+  if (arguments.has(Option::Consecutive) && arguments.value(Option::Consecutive) != "join") {
     refuse(typed(arguments, Option::Consecutive), space_aligned, "a run of blanks counts as one");
   }
   for (Option const rule : {Option::Leading, Option::Trailing}) {
-    if (arguments.has(rule) && arguments.given.at(rule).front() != "ignore") {
+    if (arguments.has(rule) && arguments.value(rule) != "ignore") {
       refuse(typed(arguments, rule), space_aligned, "blanks around a line make no fields");
     }
   }
 }
 
-void check_counts(Arguments const& arguments, Settings const& settings) {
-  auto const& parsing = settings.parsing;
-  bool const lines = settings.layout == StrategyMode::LineReader;
-  if (lines && !parsing.detect_header_lines && parsing.header_lines > 0) {
-    refuse(typed(arguments, Option::HeaderLines), "--layout lines", "every line is a value");
-  }
-  if (parsing.ignore_num_variables) {
+/// Rules for delimiters and for columns, where the layout has none of them.
+void check_rules(Arguments const& arguments, Request const& request) {
+  auto const layout = implied_layout(request);
+  if (!layout) {
     return;
   }
-  if (lines && parsing.num_variables != 1) {
+  std::string const named = flag(layout_option(arguments));
+  bool const has_delimiters = layout == Layout::Delimited || layout == Layout::SpaceAligned;
+  for (Option const rule : {Option::Consecutive, Option::Leading, Option::Trailing}) {
+    if (arguments.has(rule) && !has_delimiters) {
+      refuse(typed(arguments, rule), named, "this layout has no delimiters");
+    }
+  }
+  if (arguments.has(Option::PartialField) && layout != Layout::FixedWidth) {
+    refuse(typed(arguments, Option::PartialField), named, "this layout has no column widths");
+  }
+  if (layout == Layout::SpaceAligned) {
+    check_rules_for_blanks(arguments);
+  }
+}
+
+void check_counts(Arguments const& arguments, Request const& request) {
+  bool const lines = request.layout == Layout::Lines;
+  if (lines && request.header_lines.value_or(0) > 0) {
+    refuse(typed(arguments, Option::HeaderLines), "--layout lines", "every line is a value");
+  }
+  if (!request.num_columns) {
+    return;
+  }
+  if (lines && request.num_columns != 1U) {
     refuse(typed(arguments, Option::Columns), "--layout lines", "a line is one value");
   }
-  std::size_t const widths = parsing.column_widths.size();
-  if (widths > 0 && widths != parsing.num_variables) {
+  std::size_t const widths = request.widths.size();
+  if (widths > 0 && widths != request.num_columns) {
     refuse(typed(arguments, Option::Columns), typed(arguments, Option::Widths),
            fmt::format("these are {} widths", widths));
   }
 }
 
-/// Two options that would give one character two meanings.
-void check_characters(Arguments const& arguments, Settings const& settings) {
-  auto const& parsing = settings.parsing;
-  std::u16string const decimal_mark(1, parsing.decimal_separator);
-  if (parsing.thousands_separator == decimal_mark) {
+/// Marks of numbers and quotes that would have two meanings.
+void check_marks(Arguments const& arguments, Request const& request) {
+  auto const& values = request.values;
+  char16_t const decimal_mark = values.decimal_mark.value_or(u'.');
+  if (values.thousands_mark == decimal_mark) {
     refuse(typed(arguments, Option::ThousandsMark),
-           arguments.has(Option::DecimalMark) ? typed(arguments, Option::DecimalMark)
-                                              : "the decimal mark (a full stop by default)",
+           typed_or(arguments, Option::DecimalMark, "the decimal mark (a full stop by default)"),
            "give another --decimal-mark");
   }
+  char16_t const quote = request.quote.value_or(u'"');
+  std::string const quoted =
+      typed_or(arguments, Option::Quote, "the quote character (a quotation mark by default)");
+  for (Option const mark : {Option::DecimalMark, Option::ThousandsMark}) {
+    auto const& character =
+        mark == Option::DecimalMark ? values.decimal_mark : values.thousands_mark;
+    // An apostrophe stands between thousands and around other fields.
+    if (character && character == quote && quote != u'\0' && quote != u'\'') {
+      refuse(typed(arguments, mark), quoted, one_meaning);
+    }
+  }
+}
+
+/// Delimiters that mean something else, too.
+void check_delimiters(Arguments const& arguments, Request const& request) {
   auto const is_delimiter = [&](std::u16string const& text) {
-    return std::ranges::find(parsing.delimiters, text) != parsing.delimiters.end();
+    return std::ranges::find(request.delimiters, text) != request.delimiters.end();
   };
-  constexpr std::string_view one_meaning = "one character cannot mean both";
-  if (!parsing.quote_characters.empty() && is_delimiter(parsing.quote_characters)) {
+  auto const is_mark = [&](std::optional<char16_t> const& mark) {
+    return mark && is_delimiter(std::u16string(1, *mark));
+  };
+  if (std::ranges::any_of(request.excluded_delimiters, is_delimiter)) {
+    refuse("--delimiter", "--exclude-delimiter", "both name the same text");
+  }
+  if (is_mark(request.quote.value_or(u'"'))) {
     refuse("--delimiter",
-           arguments.has(Option::Quote) ? typed(arguments, Option::Quote)
-                                        : "the quote character (a quotation mark by default)",
+           typed_or(arguments, Option::Quote, "the quote character (a quotation mark by default)"),
            "give --quote none or another one");
   }
-  if (arguments.has(Option::DecimalMark) && is_delimiter(decimal_mark)) {
+  if (is_mark(request.values.decimal_mark)) {
     refuse("--delimiter", typed(arguments, Option::DecimalMark), one_meaning);
   }
-  if (arguments.has(Option::ThousandsMark) && is_delimiter(parsing.thousands_separator)) {
+  if (is_mark(request.values.thousands_mark)) {
     refuse("--delimiter", typed(arguments, Option::ThousandsMark), one_meaning);
   }
-  for (std::u16string const& ending : parsing.line_endings) {
-    if (is_delimiter(ending)) {
-      refuse("--delimiter",
-             arguments.has(Option::LineEnding) ? typed(arguments, Option::LineEnding)
-                                               : "the line endings (LF, CRLF and CR by default)",
-             "give another --line-ending");
+  std::vector<std::u16string> const endings =
+      request.line_endings.empty() ? textimport::SourceFormat().line_endings : request.line_endings;
+  if (std::ranges::any_of(endings, is_delimiter)) {
+    refuse("--delimiter",
+           typed_or(arguments, Option::LineEnding, "the line endings (LF, CRLF and CR by default)"),
+           "give another --line-ending");
+  }
+}
+
+void check_inputs(Arguments const& arguments) {
+  auto const& operands = arguments.operands;
+  if (arguments.has(Option::FilesFrom) && !operands.empty()) {
+    refuse("--files0-from", operands.front(), "name the files in one place");
+  }
+  if (arguments.has(Option::Save) && (operands.size() > 1 || arguments.has(Option::FilesFrom))) {
+    refuse("--save",
+           arguments.has(Option::FilesFrom) ? "--files0-from"
+                                            : fmt::format("{} files", operands.size()),
+           "it writes about one");
+  }
+  bool const is_input_read = operands.empty() || std::ranges::find(operands, "-") != operands.end();
+  if (arguments.has(Option::Format) && arguments.value(Option::Format) == "-" && is_input_read) {
+    refuse("--format -", "standard input as the text", "name a file");
+  }
+}
+
+void check_output(Arguments const& arguments) {
+  for (Option const option : {Option::Oneline, Option::Save}) {
+    if (arguments.has(option) && arguments.command != Command::Detect) {
+      throw UsageError(fmt::format("explain has no option {}: it belongs to detect", flag(option)));
+    }
+  }
+  for (Option const other : {Option::Json, Option::Rows}) {
+    if (arguments.has(Option::Oneline) && arguments.has(other)) {
+      refuse("--oneline", flag(other), "give one of them");
     }
   }
 }
 
 }  // namespace
 
-std::optional<StrategyMode> implied_layout(Settings const& settings) {
-  if (!settings.parsing.delimiters.empty()) {
-    return StrategyMode::Delimited;
-  }
-  if (!settings.parsing.column_widths.empty()) {
-    return StrategyMode::FixedWidth;
-  }
-  return settings.layout;
-}
-
-void check_contradictions(Arguments const& arguments, Settings const& settings) {
-  check_layout(arguments, settings);
-  check_rules(arguments, settings);
-  check_counts(arguments, settings);
-  check_characters(arguments, settings);
-  if (arguments.has(Option::FilesFrom) && !arguments.operands.empty()) {
-    refuse("--files0-from", arguments.operands.front(), "name the files in one place");
-  }
+void check_contradictions(Arguments const& arguments, Request const& request) {
+  check_layout(arguments, request);
+  check_rules(arguments, request);
+  check_counts(arguments, request);
+  check_marks(arguments, request);
+  check_delimiters(arguments, request);
+  check_inputs(arguments);
+  check_output(arguments);
 }
 
 }  // namespace cli

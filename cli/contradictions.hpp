@@ -3,18 +3,13 @@
 // Options that cannot all be met.
 #pragma once
 
-#include <optional>
-
 #include "cli/arguments.hpp"
-#include "cli/settings.hpp"
+#include "text_import/format/request.hpp"
 
 namespace cli {
 
-/// Throws usage_error when options contradict each other; the message names both and what to do.
-void check_contradictions(Arguments const& arguments, Settings const& settings);
-
-/// The layout that the options amount to: the one that is named, or the one that delimiters or
-/// widths imply.
-[[nodiscard]] std::optional<textio::enums::StrategyMode> implied_layout(Settings const& settings);
+/// Throws UsageError when options contradict each other, or stand with a command that does not know
+/// them; the message names both and what to do. `request` is what they amount to.
+void check_contradictions(Arguments const& arguments, textimport::Request const& request);
 
 }  // namespace cli

@@ -12,8 +12,8 @@
 #include "cli/lines.hpp"
 #include "cli/reasons.hpp"
 #include "cli/survey_story.hpp"
-#include "text_import/format/utf.hpp"
 #include "cli/words.hpp"
+#include "text_import/format/utf.hpp"
 #include "text_import/import_error.hpp"
 
 namespace cli {

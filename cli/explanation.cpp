@@ -7,8 +7,8 @@
 #include <limits>
 #include <set>
 
-#include "text_import/format/utf.hpp"
 #include "text_format_detection/detection/strategy_selector.hpp"
+#include "text_import/format/utf.hpp"
 
 namespace cli {
 

@@ -6,19 +6,30 @@
 #include <functional>
 #include <string>
 
-#include "cli/answer.hpp"
 #include "cli/arguments.hpp"
-#include "cli/settings.hpp"
+#include "cli/request_building.hpp"
+#include "text_import/analysis/analysis.hpp"
+#include "text_import/report/style.hpp"
+#include "text_import/source/text_source.hpp"
 
 namespace cli {
+
+/// What is known of one file. The analysis refers to the text.
+struct Answer {
+  textimport::TextSource text;
+  textimport::Analysis analysis;
+  textimport::ReportSubject subject;
+};
 
 /// Makes what is printed about one file. `first` is true for the first that is printed.
 using Renderer = std::function<std::string(Answer const& answer, bool first)>;
 
-/// Finds the answer for each file and prints what `render` makes of it. Files that cannot be read
-/// and broken rules are told on standard error, and the former as an object when JSON is asked for.
-/// Returns the highest exit code. Throws output_error and closed_pipe.
-[[nodiscard]] int answer_files(Arguments const& arguments, Settings const& settings,
-                               Renderer const& render);
+/// Analyses each file and prints what `render` makes of it. Files that cannot be read and broken
+/// rules are told on standard error, and the former as an object when JSON is asked for.
+/// Returns the highest exit code. Throws UsageError, OutputError and ClosedPipe.
+[[nodiscard]] int answer_files(Arguments const& arguments, Task task, Renderer const& render);
+
+/// How the output for people looks, on what standard output is.
+[[nodiscard]] textimport::ReportStyle style_of(Task const& task);
 
 }  // namespace cli

@@ -6,8 +6,8 @@
 
 #include <fmt/format.h>
 
-#include "cli/display_text.hpp"
 #include "cli/usage_error.hpp"
+#include "text_import/report/display_text.hpp"
 
 namespace cli {
 
@@ -49,12 +49,12 @@ std::optional<std::string> FileNames::next() {
 
 void FileNames::check(std::string const& name) const {
   if (name.empty()) {
-    throw usage_error(list_path_.empty() ? std::string("a file name is empty")
-                                         : fmt::format("--files0-from {}: a file name is empty",
-                                                       display_bytes(list_path_).utf8));
+    throw UsageError(list_path_.empty() ? std::string("a file name is empty")
+                                        : fmt::format("--files0-from {}: a file name is empty",
+                                                      textimport::display_bytes(list_path_).utf8));
   }
   if (name == "-" && list_path_ == "-") {
-    throw usage_error("--files0-from -: standard input is the list, it cannot be a file of it");
+    throw UsageError("--files0-from -: standard input is the list, it cannot be a file of it");
   }
 }
 

@@ -23,7 +23,7 @@ class FileNames {
   explicit FileNames(Arguments const& arguments);
 
   /// The next name, or nothing. Throws ImportError when the list cannot be read on, and
-  /// usage_error for an empty name, or for standard input while it is the list.
+  /// UsageError for an empty name, or for standard input while it is the list.
   [[nodiscard]] std::optional<std::string> next();
 
  private:

@@ -4,9 +4,9 @@
 
 #include <fmt/format.h>
 
-#include "cli/lines.hpp"
 #include "cli/option_table.hpp"
 #include "text_format_detection/version.hpp"
+#include "text_import/report/wrapping.hpp"
 
 namespace cli {
 
@@ -20,7 +20,7 @@ std::string entry(std::string const& name, std::string_view const meaning) {
   std::string const head = "  " + name;
   std::string const gap = head.size() + 2 <= indent ? std::string(indent - head.size(), ' ')
                                                     : "\n" + std::string(indent, ' ');
-  return head + gap + wrapped(meaning, indent, width);
+  return head + gap + textimport::wrapped(meaning, indent, width);
 }
 
 std::string option_name(OptionSpec const& row) {
@@ -36,7 +36,7 @@ std::string option_name(OptionSpec const& row) {
 
 std::string help_text() {
   std::string text = "Usage: text-format [COMMAND] [OPTION...] [FILE...]\n\n";
-  text += wrapped(program_purpose, 0, width) + "\nCommands\n";
+  text += textimport::wrapped(program_purpose, 0, width) + "\nCommands\n";
   for (CommandSpec const& command : commands()) {
     text += entry(std::string(command.name), command.help);
   }
@@ -48,7 +48,8 @@ std::string help_text() {
     previous = &row;
     text += entry(option_name(row), row.help);
   }
-  return text + "\n" + wrapped(about_files, 0, width) + "\n" + wrapped(about_exit_codes, 0, width);
+  return text + "\n" + textimport::wrapped(about_files, 0, width) + "\n" +
+         textimport::wrapped(about_exit_codes, 0, width);
 }
 
 std::string short_help() {

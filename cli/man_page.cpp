@@ -81,6 +81,7 @@ std::string man_page() {
   text += fmt::format(".SH EXIT STATUS\n{}\n.SH ENVIRONMENT\n", roff(about_exit_codes));
   text += entry(R"(\fBNO_COLOR\fR)", "Set to anything: no colour on a terminal.");
   text += entry(R"(\fBTERM\fR)", "\"dumb\": no colour either.");
+  text += entry(R"(\fBCOLUMNS\fR)", "The width of the terminal, where it is set.");
   return text + ".SH EXAMPLES\n" + std::string(examples);
 }
 

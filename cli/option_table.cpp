@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace cli {
 
@@ -15,11 +16,12 @@ constexpr std::array command_table{
                 "the columns with their names and types, and how sure that is. The command that is "
                 "meant when none is named."},
     CommandSpec{Command::Explain, "explain", "[OPTION...] [FILE...]",
-                "Tell how the decision came about: the characters that were tried, every "
-                "candidate, and the rules that left one of them."},
+                "Tell how the decision came about: what was assumed, every reading that was "
+                "weighed, and the rules that left one of them."},
     CommandSpec{Command::Generate, "generate", "man|bash|zsh|fish|json",
                 "Print the man page, the completions for a shell, or the table of commands and "
                 "options as JSON."},
+    CommandSpec{Command::Help, "help", "[COMMAND]", "Print this help."},
 };
 
 constexpr std::string_view none{};
@@ -38,9 +40,11 @@ constexpr std::array option_table{
     OptionSpec{Option::FilesFrom, Section::Reading, 0, "files0-from", "FILE", none, false,
                "Take the names of the files from FILE, each ended by a NUL byte; \"-\" is standard "
                "input."},
+    OptionSpec{Option::Member, Section::Reading, 0, "member", "NAME", none, false,
+               "Read this member of each archive. Default: the only one."},
     OptionSpec{Option::Library, Section::Reading, 0, "library", none, none, false,
-               "Give the detection library's own answer. Default: it is asked under several "
-               "assumptions, and what it says is weighed."},
+               "The layout is what the detection library decides by itself. Default: it is asked "
+               "under several assumptions, and what it says is weighed."},
 
     OptionSpec{Option::Layout, Section::Layout, 'l', "layout", none,
                "auto|delimited|space-aligned|fixed-width|lines", false,
@@ -55,10 +59,16 @@ constexpr std::array option_table{
     OptionSpec{Option::Columns, Section::Layout, 'c', "columns", "N", none, false,
                "Expect this many columns: prefer what has them, and call an answer with another "
                "number not decided."},
+    OptionSpec{Option::ExcludeDelimiter, Section::Layout, 0, "exclude-delimiter", "TEXT", none,
+               true, "Never take TEXT for a delimiter."},
+    OptionSpec{
+        Option::Format, Section::Layout, 0, "format", "FILE", none, false,
+        "Read the text as FILE says, which --save wrote for another file of the kind. Options "
+        "that say the same come before it."},
 
     OptionSpec{Option::Comment, Section::Records, 0, "comment", "TEXT", none, true,
                "A line that starts with TEXT is a comment. Given twice: the marks that open and "
-               "close a comment."},
+               "close a comment. \"none\": there are no comments."},
     OptionSpec{Option::Quote, Section::Records, 'q', "quote", "CHAR", none, false,
                "The character around quoted fields, or \"none\". Default: the quotation mark."},
     OptionSpec{Option::Whitespace, Section::Records, 0, "whitespace", "CHARS", none, false,
@@ -85,9 +95,10 @@ constexpr std::array option_table{
                "field, no record, a missing value, a field that runs on into the next line, or "
                "an error. Default: keep."},
 
-    OptionSpec{Option::DecimalMark, Section::Values, 0, "decimal-mark", "CHAR", none, false,
-               "The mark before the decimals of a number, or \"none\". It is never taken for a "
-               "delimiter. Default: the full stop."},
+    OptionSpec{
+        Option::DecimalMark, Section::Values, 0, "decimal-mark", "CHAR", none, false,
+        "The mark before the decimals of a number, or \"none\". It is never taken for a "
+        "delimiter: a comma says that fields do not end at commas. Default: it is found out."},
     OptionSpec{Option::ThousandsMark, Section::Values, 0, "thousands-mark", "CHAR", none, false,
                "The mark between groups of digits. It is never taken for a delimiter."},
     OptionSpec{Option::Missing, Section::Values, 'm', "missing", "TEXT", none, true,
@@ -108,10 +119,19 @@ constexpr std::array option_table{
 
     OptionSpec{Option::Json, Section::Output, 'j', "json", none, none, false,
                "Print one JSON object a line for each file."},
+    OptionSpec{Option::Oneline, Section::Output, 0, "oneline", none, none, false,
+               "Print one line for each file, its parts apart by tabs: the path, the layout, the "
+               "delimiter or the widths, the first line of the data, the number of columns, the "
+               "encoding, how sure that is."},
+    OptionSpec{Option::Save, Section::Output, 0, "save", "FILE", none, false,
+               "Write the answer to FILE as JSON too, for --format and for other programs. For one "
+               "input."},
     OptionSpec{Option::Rows, Section::Output, 'r', "rows", "N", none, false,
                "Show this many rows of the data. Default: 5."},
-    OptionSpec{Option::Width, Section::Output, 0, "width", "N", none, false,
-               "Fit the output for people into lines of N cells, at least 40. Default: 80."},
+    OptionSpec{
+        Option::Width, Section::Output, 0, "width", "N", none, false,
+        "Fit the output for people into lines of N cells, at least 40, or \"auto\": the width "
+        "of the terminal up to 200, and 80 without one. Default: auto."},
     OptionSpec{Option::Color, Section::Output, 0, "color", none, "auto|always|never", false,
                "Whether to use colour. \"auto\" does on a terminal, unless NO_COLOR is set or TERM "
                "is \"dumb\"."},
@@ -174,6 +194,12 @@ std::vector<std::string_view> words_of(std::string_view rest) {
 
 std::vector<std::string_view> choices(OptionSpec const& spec) {
   return words_of(spec.choices);
+}
+
+std::vector<std::string_view> command_names() {
+  std::vector<std::string_view> names;
+  std::ranges::transform(command_table, std::back_inserter(names), &CommandSpec::name);
+  return names;
 }
 
 std::vector<std::string_view> generate_kinds() {

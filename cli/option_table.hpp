@@ -13,7 +13,7 @@
 
 namespace cli {
 
-enum class Command : std::uint8_t { Detect, Explain, Generate };
+enum class Command : std::uint8_t { Detect, Explain, Generate, Help };
 
 struct CommandSpec {
   Command command;
@@ -29,6 +29,7 @@ enum class Option : std::uint8_t {
   SampleSize,
   Records,
   FilesFrom,
+  Member,
   Library,
   // the layout
   Layout,
@@ -36,6 +37,8 @@ enum class Option : std::uint8_t {
   Widths,
   HeaderLines,
   Columns,
+  ExcludeDelimiter,
+  Format,
   // records and fields
   Comment,
   Quote,
@@ -58,6 +61,8 @@ enum class Option : std::uint8_t {
   KeepBlanks,
   // the output
   Json,
+  Oneline,
+  Save,
   Rows,
   Width,
   Color,
@@ -107,6 +112,9 @@ struct OptionSpec {
 /// The first sentence of a help text, without its full stop.
 [[nodiscard]] std::string_view first_sentence(std::string_view help);
 
+/// The names of the commands.
+[[nodiscard]] std::vector<std::string_view> command_names();
+
 /// The words that the command `generate` accepts.
 [[nodiscard]] std::vector<std::string_view> generate_kinds();
 
@@ -119,7 +127,8 @@ inline constexpr std::string_view about_files =
     "of a zip archive, as archive.zip:member. Compressed files (gzip, bzip2, xz, zstd, lz4, zip) "
     "are known by their content.";
 inline constexpr std::string_view about_exit_codes =
-    "Exit codes: 0 decided; 1 not decided, the answer is a guess; 2 wrong usage, or a file that "
-    "could not be read. For several files the highest.";
+    "Exit codes: 0 decided; 1 not decided, the answer is a guess; 2 wrong usage, a file that could "
+    "not be read, a rule that is broken, or output that could not be written. For several files "
+    "the highest.";
 
 }  // namespace cli

@@ -10,10 +10,10 @@
 
 #include <fmt/format.h>
 
-#include "cli/display_text.hpp"
 #include "cli/usage_error.hpp"
-#include "text_import/format/utf.hpp"
 #include "text_format_detection/model/options.hpp"
+#include "text_import/format/utf.hpp"
+#include "text_import/report/display_text.hpp"
 
 namespace cli {
 
@@ -46,7 +46,7 @@ std::optional<char16_t> unescaped(std::u16string_view& rest) {
   if (digits == 0 || rest.size() < digits) {
     return std::nullopt;
   }
-  auto const value = number(to_utf8(rest.substr(0, digits)), 16);
+  auto const value = number(textimport::to_utf8(rest.substr(0, digits)), 16);
   rest.remove_prefix(digits);
   return value ? std::optional(static_cast<char16_t>(*value)) : std::nullopt;
 }
@@ -55,8 +55,8 @@ std::optional<char16_t> unescaped(std::u16string_view& rest) {
 
 void refuse_value(Option const option, std::string_view const value,
                   std::string_view const allowed) {
-  throw usage_error(
-      fmt::format("{} \"{}\": expected {}", flag(option), display_bytes(value).utf8, allowed));
+  throw UsageError(fmt::format("{} \"{}\": expected {}", flag(option),
+                               textimport::display_bytes(value).utf8, allowed));
 }
 
 std::size_t count_value(Option const option, std::string_view const word, std::size_t const least,
@@ -101,7 +101,7 @@ std::vector<std::size_t> widths_value(Option const option, std::string_view cons
 }
 
 std::u16string text_value(Option const option, std::string_view const word) {
-  auto const typed = from_utf8(word);
+  auto const typed = textimport::from_utf8(word);
   if (!typed || typed->empty()) {
     refuse_value(option, word, "a text in UTF-8 that is not empty");
   }
@@ -126,10 +126,19 @@ std::u16string text_value(Option const option, std::string_view const word) {
 
 char16_t character_value(Option const option, std::string_view const word) {
   std::u16string const text = text_value(option, word);
-  if (text.size() != 1) {
-    refuse_value(option, word, "one character (below U+10000)");
+  if (text.size() != 1 || text.front() == u'\0') {  // NUL stands for none where characters go
+    refuse_value(option, word, "one character (below U+10000, not NUL)");
   }
   return text.front();
+}
+
+char16_t mark_value(Option const option, std::string_view const word) {
+  char16_t const mark = character_value(option, word);
+  bool const is_letter = (mark >= u'a' && mark <= u'z') || (mark >= u'A' && mark <= u'Z');
+  if (is_letter || (mark >= u'0' && mark <= u'9')) {
+    refuse_value(option, word, "a character that is no letter and no digit");
+  }
+  return mark;
 }
 
 std::size_t choice_value(Option const option, std::string_view const word) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The values of options, from the words of the command line. Each function throws usage_error
+// The values of options, from the words of the command line. Each function throws UsageError
 // with the option, the value and what is allowed.
 #pragma once
 
@@ -29,8 +29,11 @@ namespace cli {
 /// Text of at least one code unit, with its escapes resolved.
 [[nodiscard]] std::u16string text_value(Option option, std::string_view word);
 
-/// Text of exactly one code unit.
+/// Text of exactly one code unit, which is not NUL.
 [[nodiscard]] char16_t character_value(Option option, std::string_view word);
+
+/// A mark within numbers: one code unit that is no letter and no digit.
+[[nodiscard]] char16_t mark_value(Option option, std::string_view word);
 
 /// The position of the word among the allowed ones of the option.
 [[nodiscard]] std::size_t choice_value(Option option, std::string_view word);

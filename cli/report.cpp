@@ -9,8 +9,8 @@
 #include "cli/preview.hpp"
 #include "cli/survey_report.hpp"
 #include "cli/table.hpp"
-#include "text_import/format/utf.hpp"
 #include "cli/words.hpp"
+#include "text_import/format/utf.hpp"
 #include "text_import/import_error.hpp"
 
 namespace cli {

@@ -16,8 +16,8 @@ namespace cli {
 
 namespace {
 
-using textimport::SurveyCandidate;
 using textimport::Layout;
+using textimport::SurveyCandidate;
 
 constexpr std::array rule_texts{
     SurveyRuleText{"regular_records",

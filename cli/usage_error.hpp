@@ -8,7 +8,7 @@
 namespace cli {
 
 /// The message names the option, its value and what is allowed.
-class usage_error : public std::runtime_error {
+class UsageError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 //
-// The words of a command line, one a line, as arguments and settings. No file is opened.
+// The words of a command line, one a line, as arguments and what is to be done. No file is opened.
 #include <map>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "cli/settings.hpp"
+#include "cli/request_building.hpp"
 #include "cli/usage_error.hpp"
 #include "fuzz/properties.hpp"
 
@@ -22,7 +22,7 @@ template <class Action>
 auto unless_refused(Action const& action) -> std::optional<decltype(action())> {
   try {
     return action();
-  } catch (cli::usage_error const& error) {
+  } catch (cli::UsageError const& error) {
     require(*error.what() != '\0', "a refusal says why");
     return std::nullopt;
   }
@@ -68,14 +68,16 @@ extern "C" int LLVMFuzzerTestOneInput(  // NOLINT(readability-identifier-naming)
   require(again && again->command == arguments->command && again->given == arguments->given &&
               again->operands == arguments->operands,
           "words spelled out mean the same");
-  auto const settings = unless_refused([&] { return cli::make_settings(*arguments); });
-  if (settings) {
-    auto const& parsing = settings->parsing;
-    require(settings->records > 0 && settings->opening.sample_bytes > 0, "a sample is not empty");
-    require(parsing.comment_style.size() <= 2, "comments have two marks at most");
-    require(!parsing.line_endings.empty(), "lines end somehow");
-    require(settings->given.size() <= arguments->given.size(),
-            "nothing is given that was not typed");
+  auto const task = unless_refused([&] { return cli::make_task(*arguments); });
+  if (task) {
+    auto const& request = task->request;
+    require(request.records > 0 && task->opening.sample_bytes > 0, "a sample is not empty");
+    require(!request.comment_markers || request.comment_markers->size() <= 2,
+            "comments have two marks at most");
+    require(request.line_endings == task->opening.line_endings, "lines end in one way");
+    require(request.delimiters.empty() || request.widths.empty(), "one way to split a line");
+    require(!request.values.decimal_mark || request.values.decimal_mark != u'1',
+            "digits are no marks");
   }
   return 0;
 }

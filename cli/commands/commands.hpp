@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The commands. Each returns the exit code and throws usage_error, output_error or closed_pipe.
+// The commands. Each returns the exit code and throws UsageError, OutputError or ClosedPipe.
 #pragma once
 
 #include "cli/arguments.hpp"
@@ -15,5 +15,8 @@ namespace cli {
 
 /// The man page, completions, or the table of options.
 [[nodiscard]] int generate(Arguments const& arguments);
+
+/// The help text, whichever command it is asked about.
+[[nodiscard]] int help(Arguments const& arguments);
 
 }  // namespace cli

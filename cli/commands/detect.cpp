@@ -1,24 +1,25 @@
 // SPDX-License-Identifier: MIT
 
-#include <nlohmann/json.hpp>
-
 #include "cli/commands/commands.hpp"
-#include "cli/console.hpp"
 #include "cli/file_loop.hpp"
-#include "cli/json_report.hpp"
-#include "cli/report.hpp"
-#include "cli/settings.hpp"
+#include "text_import/report/json_report.hpp"
+#include "text_import/report/report.hpp"
 
 namespace cli {
 
 int detect(Arguments const& arguments) {
-  Settings const settings = make_settings(arguments);
-  Colors const colors = colors_of(settings.color);
-  return answer_files(arguments, settings, [&](Answer const& answer, bool const first) {
-    if (settings.json) {
-      return json_line(answer_object(answer, settings));
+  Task const task = make_task(arguments);
+  textimport::ReportStyle const style = style_of(task);
+  return answer_files(arguments, task, [&](Answer const& answer, bool const first) {
+    switch (task.output) {
+      case Output::Json:
+        return textimport::report_json(answer.analysis, answer.subject);
+      case Output::Line:
+        return textimport::report_line(answer.analysis, answer.subject);
+      case Output::Report:
+        break;
     }
-    return (first ? "" : "\n") + report(answer, settings, colors);
+    return (first ? "" : "\n") + textimport::report(answer.analysis, answer.subject, style);
   });
 }
 

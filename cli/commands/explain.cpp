@@ -1,24 +1,20 @@
 // SPDX-License-Identifier: MIT
 
-#include <nlohmann/json.hpp>
-
 #include "cli/commands/commands.hpp"
-#include "cli/console.hpp"
-#include "cli/explain_report.hpp"
 #include "cli/file_loop.hpp"
-#include "cli/json_report.hpp"
-#include "cli/settings.hpp"
+#include "text_import/report/json_report.hpp"
+#include "text_import/report/report.hpp"
 
 namespace cli {
 
 int explain(Arguments const& arguments) {
-  Settings const settings = make_settings(arguments);
-  Colors const colors = colors_of(settings.color);
-  return answer_files(arguments, settings, [&](Answer const& answer, bool const first) {
-    if (settings.json) {
-      return json_line(explain_object(answer, settings));
+  Task const task = make_task(arguments);
+  textimport::ReportStyle const style = style_of(task);
+  return answer_files(arguments, task, [&](Answer const& answer, bool const first) {
+    if (task.output == Output::Json) {
+      return textimport::explanation_json(answer.analysis, answer.subject);
     }
-    return (first ? "" : "\n") + explain_report(answer, settings, colors);
+    return (first ? "" : "\n") + textimport::explanation(answer.analysis, answer.subject, style);
   });
 }
 

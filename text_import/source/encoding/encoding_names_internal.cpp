@@ -8,11 +8,12 @@
 #include <iterator>
 #include <memory>
 #include <new>
-#include <numeric>
 #include <set>
 #include <utility>
 
 #include <unicode/ucnv.h>
+
+#include "text_import/format/edit_distance.hpp"
 
 namespace textimport {
 namespace {
@@ -40,20 +41,6 @@ std::string digits_of(std::string_view const name) {
   std::string result;
   std::copy_if(name.begin(), name.end(), std::back_inserter(result), is_digit);
   return result;
-}
-
-std::size_t edit_distance(std::string_view const a, std::string_view const b) {
-  std::vector<std::size_t> row(b.size() + 1);
-  std::iota(row.begin(), row.end(), std::size_t{0});
-  for (std::size_t i = 0; i < a.size(); ++i) {
-    std::size_t diagonal = std::exchange(row[0], i + 1);
-    for (std::size_t j = 0; j < b.size(); ++j) {
-      std::size_t const changed = diagonal + (a[i] == b[j] ? 0 : 1);
-      diagonal = row[j + 1];
-      row[j + 1] = std::min({changed, row[j] + 1, row[j + 1] + 1});
-    }
-  }
-  return row.back();
 }
 
 /// Three for each edit, one with the same number in both names; no name is near at `max_penalty`.
