@@ -28,9 +28,9 @@ bool is_date(ValueType const type) {
 /// What the values of one column have in common, value by value.
 class ColumnSummary {
  public:
-  void add(view const field, char16_t const quote) {
-    ValueLook const look = look_at(field, quote);
-    view const text = unquoted(field, quote);
+  void add(view const field, ValueGrammar const& values) {
+    ValueLook const look = values.look_at(field);
+    view const text = values.value_of(field);
     if (look.shape == ValueShape::Empty) {
       ++counts_.empty;
       return;
@@ -212,7 +212,7 @@ std::vector<DescribedColumn> describe_columns(Reading const& r, HeaderRows const
     }
     auto const record = fields.record(i);
     for (std::size_t column = 0; column < std::min(record.size(), summaries.size()); ++column) {
-      summaries[column].add(record[column].view(), r.quote);
+      summaries[column].add(record[column].view(), r.values);
     }
   }
   bool const has_decimal_comma = std::ranges::any_of(summaries, &ColumnSummary::has_decimal_comma);
@@ -226,11 +226,11 @@ std::vector<DescribedColumn> describe_columns(Reading const& r, HeaderRows const
 }
 
 DescribedColumn describe_lines(LineIndex const& lines, std::size_t const first,
-                               std::size_t const end) {
+                               std::size_t const end, ValueGrammar const& values) {
   constexpr std::size_t enough = 1000;
   ColumnSummary summary;
   for (std::size_t i = first; i < std::min(end, first + enough); ++i) {
-    summary.add(lines[i], u'"');
+    summary.add(lines[i], values);
   }
   return summary.finish(summary.has_decimal_comma(), nullptr);
 }

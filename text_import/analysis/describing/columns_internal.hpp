@@ -27,7 +27,7 @@ struct DescribedColumn {
 
 /// The one column of a text that is read line by line, from a line up to, not including, `end`.
 [[nodiscard]] DescribedColumn describe_lines(LineIndex const& lines, std::size_t first,
-                                             std::size_t end);
+                                             std::size_t end, ValueGrammar const& values);
 
 /// Sets the extents of fixed-width columns, from the lines up to, not including, `end`.
 void place_columns(std::vector<Column>& columns, std::vector<std::size_t> const& widths,

@@ -113,7 +113,7 @@ class Describer {
     set_comments(task_.parsing.comment_style, false);
     std::size_t const first = first_of_list();
     std::size_t const end = given_.end.value_or(lines_.count());
-    auto column = describe_lines(lines_, first, end);
+    auto column = describe_lines(lines_, first, end, ValueGrammar(u'"', values()));
     format().region.first_line = first;
     bool const may_have_names = first > 0 && (given_.name_lines ? !given_.name_lines->empty()
                                                                 : !given_.first.has_value());
@@ -134,6 +134,8 @@ class Describer {
 
  private:
   [[nodiscard]] Format& format() { return said_.format; }
+
+  [[nodiscard]] ValueRequest const& values() const { return task_.request.values; }
 
   /// Rules that the caller did not set are the usual ones for data, not those of sampling.
   void set_rules() {
@@ -255,10 +257,10 @@ class Describer {
     if (lines_.count() < 2) {
       return 0;
     }
-    ValueType const type = describe_lines(lines_, 1, lines_.count()).column.type;
+    ValueGrammar const grammar(quote_of(task_.parsing), values());
+    ValueType const type = describe_lines(lines_, 1, lines_.count(), grammar).column.type;
     bool const has_values = type != ValueType::Text && type != ValueType::Empty;
-    bool const is_value =
-        is_typed(look_at(lines_[0], quote_of(task_.parsing)).shape);
+    bool const is_value = is_typed(grammar.look_at(lines_[0]).shape);
     return has_values && !is_value ? 1 : 0;
   }
 

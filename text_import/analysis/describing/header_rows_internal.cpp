@@ -64,7 +64,7 @@ class CellTable {
     auto const fields = reading_.strategy->field_array()->record(record);
     for (std::size_t column = 0; column < reading_.block.columns; ++column) {
       view const text = column < fields.size() ? fields[column].view() : view();
-      cells_.push_back({unquoted(text, reading_.quote), look_at(text, reading_.quote)});
+      cells_.push_back({reading_.values.value_of(text), reading_.values.look_at(text)});
     }
   }
 
@@ -235,7 +235,7 @@ std::size_t first_record_behind(Reading const& r, std::size_t const header,
   for (std::size_t i = header + 1; i < regular; ++i) {
     auto const fields = r.strategy->field_array()->record(i);
     bool const is_data = fields.size() > 1 && std::ranges::any_of(fields, [&](auto const& field) {
-                           return is_typed(look_at(field.view(), r.quote).shape);
+                           return is_typed(r.values.look_at(field.view()).shape);
                          });
     if (is_data) {
       return i;

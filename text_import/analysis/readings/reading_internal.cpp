@@ -161,7 +161,7 @@ class ValueCount {
   void add_record(std::size_t const i, bool const may_be_names) {
     auto const record = reading_.strategy->field_array()->record(i);
     for (std::size_t column = 0; column < std::min(columns_.size(), record.size()); ++column) {
-      add(columns_[column], look_at(record[column].view(), reading_.quote), may_be_names);
+      add(columns_[column], reading_.values.look_at(record[column].view()), may_be_names);
     }
   }
 
@@ -208,7 +208,8 @@ class ValueCount {
 }  // namespace
 
 Reading measure_records(std::shared_ptr<textio::GenericStrategy> strategy,
-                        LineIndex const& lines, ColumnProfile const* const profile) {
+                        LineIndex const& lines, ValueRequest const& values,
+                        ColumnProfile const* const profile) {
   Reading r;
   r.strategy = std::move(strategy);
   r.layout = layout_of(r.strategy->mode());
@@ -216,6 +217,7 @@ Reading measure_records(std::shared_ptr<textio::GenericStrategy> strategy,
     r.delimiter = r.strategy->options().delimiters.front();
   }
   r.quote = quote_of(r.strategy->options());
+  r.values = ValueGrammar(r.quote, values);
   place_records(r, lines);
   if (profile != nullptr) {
     count_fitting_lines(r, lines, *profile);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// One reading of the sample: what a strategy of the library makes of it, and the survey's own
+// One reading of the sample: what a strategy of the engine makes of it, and the analysis' own
 // measures of that.
 #pragma once
 
@@ -12,6 +12,7 @@
 
 #include "text_format_detection/strategies/generic_strategy.hpp"
 #include "text_import/analysis/readings/column_profile_internal.hpp"
+#include "text_import/analysis/values/value_grammar_internal.hpp"
 #include "text_import/analysis/lines/line_index.hpp"
 #include "text_import/format/evidence.hpp"
 
@@ -39,6 +40,7 @@ struct Reading {
   Layout layout = Layout::Lines;
   std::u16string delimiter;
   char16_t quote = 0;
+  ValueGrammar values{u'\0', {}};  ///< how its values are judged
 
   std::vector<RecordPlace> records;
   std::size_t filled_records = 0;
@@ -55,10 +57,10 @@ struct Reading {
   std::size_t longest_record = 1;  ///< in lines
 };
 
-/// The measures of what a strategy of the library sampled. `profile`, for fixed widths only, tells
+/// The measures of what a strategy of the engine sampled. `profile`, for fixed widths only, tells
 /// which lines belong to the table; elsewhere the number of fields does.
 [[nodiscard]] Reading measure_records(std::shared_ptr<textio::GenericStrategy> strategy,
-                                      LineIndex const& lines,
+                                      LineIndex const& lines, ValueRequest const& values,
                                       ColumnProfile const* profile = nullptr);
 
 /// The same strategy with the table at the end of the text, where that is another one than the
