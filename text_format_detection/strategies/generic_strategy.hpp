@@ -113,10 +113,6 @@ class TFD_API GenericStrategy {
   void set_prior_rank(double const rank) noexcept { valuation_.prior_rank = rank; }
 
  private:
-  void score(std::vector<std::size_t> const& counts);
-  void score_regular_lines(std::vector<std::size_t> const& counts, std::size_t typical,
-                           std::size_t skip);
-
   parser::options options_;
   StrategyValuation valuation_;
   bool detect_header_lines_;
