@@ -35,7 +35,8 @@ class FieldCleaner {
     if (options_.trim_whitespace) {
       text = model::trimmed(text, whitespace_);
     }
-    if (!text.empty() && text.front() == options_.leading_character) {
+    char16_t const leading = options_.leading_character;
+    if (leading != end_mark && !text.empty() && text.front() == leading) {
       text.remove_prefix(1);
     }
     return is_missing(text) ? std::u16string_view{} : text;
