@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // Whole decisions, with the caller's options drawn from the input.
+#include <algorithm>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -73,6 +75,9 @@ void require_sound(DetectionReport const& report, Caller const& caller, Placed c
             "a rule leaves some, in order");
     left = survivors;
   }
+  require(std::ranges::is_sorted(report.untried, std::ranges::less_equal(),
+                                 &textio::detection::UntriedCharacter::character),
+          "a character that was not tried is told once");
   require(!report.winner || (left.size() == 1 && left.front() == *report.winner),
           "the winner is the one that is left");
 }
