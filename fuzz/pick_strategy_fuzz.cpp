@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // Whole decisions, with the caller's options drawn from the input.
-#include <bit>
-#include <cstdint>
+#include <algorithm>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -17,7 +17,6 @@ namespace {
 using fuzz::Placed;
 using fuzz::require;
 using textio::GenericStrategy;
-using textio::StrategyValuation;
 using textio::detection::CandidateFate;
 using textio::detection::DetectionReport;
 using textio::enums::StrategyMode;
@@ -38,18 +37,6 @@ struct Caller {
   }
 };
 
-bool same_score(StrategyValuation const& a, StrategyValuation const& b) {
-  auto const same = [](double const x, double const y) {
-    return std::bit_cast<std::uint64_t>(x) == std::bit_cast<std::uint64_t>(y);
-  };
-  return same(a.mean_deviation, b.mean_deviation) && same(a.data_variation, b.data_variation) &&
-         same(a.prior_rank, b.prior_rank) && a.num_records == b.num_records &&
-         a.typical_fields == b.typical_fields && a.num_variables == b.num_variables &&
-         a.typed_columns == b.typed_columns && a.date_columns == b.date_columns &&
-         a.numeric_columns == b.numeric_columns && a.datetime_columns == b.datetime_columns &&
-         a.delimiter_columns == b.delimiter_columns && a.header_lines == b.header_lines;
-}
-
 /// A strategy of the same kind, made and sampled outside of the decision, gets the same score.
 void require_reproducible(GenericStrategy& strategy, Caller const& caller, Placed const& sample) {
   std::shared_ptr<GenericStrategy> again;
@@ -61,8 +48,8 @@ void require_reproducible(GenericStrategy& strategy, Caller const& caller, Place
   } else {
     return;  // the header lines of fixed widths were found by the decision
   }
-  require(same_score(textio::evaluate_strategy(again, sample.field(), caller.records),
-                     strategy.valuation()),
+  require(support::same_score(textio::evaluate_strategy(again, sample.field(), caller.records),
+                              strategy.valuation()),
           "a strategy gets its score by itself");
 }
 
@@ -88,6 +75,9 @@ void require_sound(DetectionReport const& report, Caller const& caller, Placed c
             "a rule leaves some, in order");
     left = survivors;
   }
+  require(std::ranges::is_sorted(report.untried, std::ranges::less_equal(),
+                                 &textio::detection::UntriedCharacter::character),
+          "a character that was not tried is told once");
   require(!report.winner || (left.size() == 1 && left.front() == *report.winner),
           "the winner is the one that is left");
 }

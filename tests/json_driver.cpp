@@ -51,29 +51,34 @@ json score_out(StrategyValuation score, bool const evaluated) {
   return out;
 }
 
+/// The score of an unscored strategy as it stands: the worst values, and the rank of its layout,
+/// which the real score tells. Asking for that changes the strategy.
+StrategyValuation untouched_score(GenericStrategy& strategy) {
+  StrategyValuation score;
+  score.prior_rank = strategy.valuation().prior_rank;
+  return score;
+}
+
 json strategy_out(GenericStrategy& strategy, std::u16string const& text) {
   bool const evaluated = strategy.is_evaluated();
-  // Asking an unscored strategy for its score would compute it: it shows the untouched score of a
-  // strategy like it instead.
-  StrategyValuation untouched;
-  if (!evaluated) {
-    untouched.prior_rank = 0;  // the comma fallback: a comma is the first default delimiter
-  }
   options const& own = strategy.options();
-  return {{"mode", static_cast<unsigned>(strategy.mode())},
-          {"delimiters", write_value(own.delimiters)},
-          {"whitespace", write_value(own.whitespace)},
-          {"type_whitespace", write_value(strategy.type_options().whitespace)},
-          {"column_widths", own.column_widths},
-          {"header_lines", write_value(strategy.header_lines())},
-          {"detect_header_lines", strategy.detects_header_lines()},
-          {"num_variables", write_value(strategy.num_variables())},
-          {"blank_delimited", strategy.is_blank_delimited()},
-          {"evaluated", evaluated},
-          {"types", strategy.has_inspected_columns() ? json(strategy.column_types()) : json()},
-          {"record_ends", strategy.field_array()->record_ends()},
-          {"fields", fields_out(*strategy.field_array(), text)},
-          {"valuation", score_out(evaluated ? strategy.valuation() : untouched, evaluated)}};
+  json out = {{"mode", static_cast<unsigned>(strategy.mode())},
+              {"delimiters", write_value(own.delimiters)},
+              {"whitespace", write_value(own.whitespace)},
+              {"type_whitespace", write_value(strategy.type_options().whitespace)},
+              {"column_widths", own.column_widths},
+              {"header_lines", write_value(strategy.header_lines())},
+              {"detect_header_lines", strategy.detects_header_lines()},
+              {"num_variables", write_value(strategy.num_variables())},
+              {"blank_delimited", strategy.is_blank_delimited()},
+              {"evaluated", evaluated},
+              {"types", strategy.has_inspected_columns() ? json(strategy.column_types()) : json()},
+              {"record_ends", strategy.field_array()->record_ends()},
+              {"fields", fields_out(*strategy.field_array(), text)}};
+  // Last, behind all that scoring would change.
+  out["valuation"] =
+      score_out(evaluated ? strategy.valuation() : untouched_score(strategy), evaluated);
+  return out;
 }
 
 char const* name_of(textio::detection::Outcome const outcome) {
@@ -133,6 +138,16 @@ json catch_error(Run const& run) {
   return out;
 }
 
+/// Reads a sample, with as many fields a record as there are columns.
+textio::ReadSummary sample(options const& how, enums::StrategyMode const mode,
+                           std::u16string_view const text,
+                           textio::reading::ReadLimits const& limits, textio::FieldArray& fields) {
+  bool const limited = mode == enums::StrategyMode::FixedWidth && !how.column_widths.empty();
+  return textio::reading::read_with_mode(
+      how, mode, text, limits,
+      {fields, how.whitespace, limited ? how.column_widths.size() : unknown_count});
+}
+
 json answer_read(json const& question, std::u16string const& text) {
   auto const kind = question.at("strategy").get<std::string>();
   auto in_force = record_of<options>(part_of(question, "options"));
@@ -145,17 +160,15 @@ json answer_read(json const& question, std::u16string const& text) {
     in_force = strategy->options();
     mode = strategy->mode();
   }
-  bool const limited = mode == enums::StrategyMode::FixedWidth && !in_force.column_widths.empty();
-  textio::reading::ReadLimits const limits{
-      .records = value_of<std::size_t>(question.value("records", json(250))),
-      .lines = value_of<std::size_t>(question.value("line_limit", json())),
-      .sampling = question.value("sampling", true)};
+  auto const records = value_of<std::size_t>(question.value("records", json(250)));
+  auto const lines = value_of<std::size_t>(question.value("line_limit", json()));
+  bool const sampling = question.value("sampling", true);
   textio::FieldArray fields;
   textio::ReadSummary summary;
   json const error = catch_error([&] {
-    summary = textio::reading::read_with_mode(
-        in_force, mode, text, limits,
-        {fields, in_force.whitespace, limited ? in_force.column_widths.size() : unknown_count});
+    summary = sampling ? sample(in_force, mode, text, {records, lines, true}, fields)
+                       : textio::read_records(in_force, mode, textio::Field(text), records, lines,
+                                              fields);
   });
   bool const done = error.is_null();
   return {{"error", error},

@@ -4,6 +4,7 @@
 #include "text_format_detection/platform/text_stream.hpp"
 
 #include <stdexcept>
+#include <type_traits>
 
 #include <gtest/gtest.h>
 
@@ -14,6 +15,10 @@
 namespace {
 
 using ostrel::io::text::stream::TextStream;
+
+// Two streams on one source would each get what the other did not.
+static_assert(!std::is_copy_constructible_v<TextStream> && !std::is_copy_assignable_v<TextStream>);
+static_assert(!std::is_move_constructible_v<TextStream> && !std::is_move_assignable_v<TextStream>);
 
 /// What is buffered, and behind a bar what follows it: the end mark.
 std::string buffered(TextStream const& stream) {

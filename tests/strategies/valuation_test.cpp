@@ -73,6 +73,26 @@ TEST(Valuation, ColumnsOfNoSample) {
   EXPECT_EQ(strategy.column_types(), std::vector<unsigned char>{5}) << "undecided";
 }
 
+/// The code of a column of three such values.
+unsigned char code_of_column(std::u16string_view const value, char16_t const leading_character) {
+  options const how{.header_lines = 0, .detect_header_lines = false};
+  DelimitedStrategy strategy(how, {.leading_character = leading_character}, u',');
+  textio::Field const field(value);
+  auto fields = std::make_unique<textio::FieldArray>();
+  for (int i = 0; i < 3; ++i) {
+    fields->append_record(std::span(&field, 1));
+  }
+  strategy.field_array(std::move(fields));
+  strategy.valuation();
+  return strategy.column_types().front();
+}
+
+TEST(Valuation, LeadingCharacterIsDroppedWhereOneIsGiven) {
+  EXPECT_EQ(code_of_column(u"#1", u'#'), 1) << "a number";
+  EXPECT_EQ(code_of_column(u"##1", u'#'), 2) << "a text";
+  EXPECT_EQ(code_of_column(u"\uFFFF1", 0xFFFF), 2) << "no leading character, but a unit like it";
+}
+
 TEST(Valuation, ColumnTypes) {
   support::for_each_row("strategies/column_types.tsv", [](support::Row const& row) {
     auto const types = support::record_of<textio::GenericStrategy::TypeAnalyzerOptions>(row.with);

@@ -2,6 +2,8 @@
 #include "tests/support/decision.hpp"
 
 #include <array>
+#include <bit>
+#include <cstdint>
 
 #include "tests/support/text.hpp"
 
@@ -97,6 +99,18 @@ std::string show_decision(GenericStrategy const& answer, DetectionReport const& 
          show_line("fields", show_count(fields.fields().size())) +       //
          show_line("sampled", show_sampled(report)) +                    //
          show_line("rules", show_rules(report));
+}
+
+bool same_score(textio::StrategyValuation const& a, textio::StrategyValuation const& b) {
+  auto const same = [](double const x, double const y) {
+    return std::bit_cast<std::uint64_t>(x) == std::bit_cast<std::uint64_t>(y);
+  };
+  return same(a.mean_deviation, b.mean_deviation) && same(a.data_variation, b.data_variation) &&
+         same(a.prior_rank, b.prior_rank) && a.num_records == b.num_records &&
+         a.typical_fields == b.typical_fields && a.num_variables == b.num_variables &&
+         a.typed_columns == b.typed_columns && a.date_columns == b.date_columns &&
+         a.numeric_columns == b.numeric_columns && a.datetime_columns == b.datetime_columns &&
+         a.delimiter_columns == b.delimiter_columns && a.header_lines == b.header_lines;
 }
 
 }  // namespace support

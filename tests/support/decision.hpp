@@ -31,4 +31,8 @@ namespace support {
 [[nodiscard]] std::string show_decision(textio::GenericStrategy const& answer,
                                         textio::detection::DetectionReport const& report);
 
+/// Whether all members are the same to the bit.
+[[nodiscard]] bool same_score(textio::StrategyValuation const& a,
+                              textio::StrategyValuation const& b);
+
 }  // namespace support

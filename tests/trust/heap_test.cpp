@@ -7,12 +7,14 @@
 #include <filesystem>
 #include <string>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
 
 #include "benchmarks/hostile_texts.hpp"
 #include "tests/support/decision.hpp"
+#include "tests/support/text.hpp"
 #include "tests/text_import/made_data.hpp"
 #include "text_format_detection/text_format_detection.hpp"
 
@@ -123,6 +125,52 @@ TEST(Allocations, MayFailWhenATextIsOpened) {
     });
   }
   std::printf("figure: %zu allocations of opening texts failed, once and for good\n", count);
+}
+
+/// The answer about a strategy whose sampling and scoring failed once, at any allocation, is that
+/// about one that never failed.
+template <class MakeStrategy>
+std::size_t expect_same_answer_after_a_failure(Field const& sample, MakeStrategy const& make) {
+  auto const sound = make();
+  textio::evaluate_strategy(sound, sample, textio::unknown_count);
+  std::string const expected = support::show_decision(*sound, {});
+  std::shared_ptr<textio::GenericStrategy> strategy;
+  return fail_each_allocation([&] {
+    strategy.reset();
+    strategy = make();
+    try {
+      textio::evaluate_strategy(strategy, sample, textio::unknown_count);
+    } catch (std::bad_alloc const&) {
+      std::size_t const fails_at = std::exchange(heap.fails_at, 0);
+      textio::evaluate_strategy(strategy, sample, textio::unknown_count);
+      EXPECT_EQ(support::show_decision(*strategy, {}), expected);
+      EXPECT_TRUE(support::same_score(strategy->valuation(), sound->valuation()));
+      strategy.reset();
+      heap.fails_at = fails_at;
+      throw;
+    }
+    strategy.reset();
+  });
+}
+
+TEST(Allocations, MayFailBeforeAStrategyIsScored) {
+  std::vector<std::u16string> texts{u"A title\n\n\na,b,c\n1,2,3\n4,5,6\n", u"x\ny\nz\n", u""};
+  for (std::string const& path : files_in("tests/samples")) {
+    texts.emplace_back(TextSource::open(path).sample().view());
+  }
+  textio::parser::options const options;
+  TypeAnalyzerOptions const types;
+  std::size_t count = 0;
+  for (std::u16string const& text : texts) {
+    SCOPED_TRACE(support::show(text));
+    count += expect_same_answer_after_a_failure(Field(text), [&] {
+      return std::make_shared<textio::DelimitedStrategy>(options, types, u',');
+    });
+    count += expect_same_answer_after_a_failure(Field(text), [&] {
+      return std::make_shared<textio::SpaceAlignedStrategy>(options, types);
+    });
+  }
+  std::printf("figure: %zu allocations of single strategies failed, once and for good\n", count);
 }
 
 constexpr std::size_t unit_bytes = sizeof(char16_t);

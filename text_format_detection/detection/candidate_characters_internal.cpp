@@ -41,6 +41,8 @@ constexpr std::array<bool, num_ascii> make_eligible() {
   return eligible;
 }
 
+constexpr std::array<bool, num_ascii> eligible_characters = make_eligible();
+
 /// Characters in order of first appearance, each once.
 class CandidateSet {
  public:
@@ -64,7 +66,7 @@ class CandidateSet {
     }
   }
 
-  std::array<bool, num_ascii> open_ = make_eligible();  // eligible and not met yet
+  std::array<bool, num_ascii> open_ = eligible_characters;  // eligible and not met yet
   std::u16string characters_;
 };
 
@@ -87,6 +89,10 @@ std::u16string candidate_characters(FieldArray const& lines) {
     ++index;
   }
   return candidates.take();
+}
+
+bool may_be_delimiter(char16_t const unit) noexcept {
+  return unit < num_ascii && eligible_characters[unit];
 }
 
 }  // namespace textio::detection

@@ -18,4 +18,7 @@ namespace textio::detection {
 /// never separate fields.
 [[nodiscard]] std::u16string candidate_characters(FieldArray const& lines);
 
+/// Whether the character is a candidate when it stands in the middle lines.
+[[nodiscard]] bool may_be_delimiter(char16_t unit) noexcept;
+
 }  // namespace textio::detection

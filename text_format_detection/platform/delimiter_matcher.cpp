@@ -16,36 +16,41 @@ DelimiterMatcher::Mode make_mode(std::vector<std::u16string> const& strings) {
   if (strings.size() == 1 && strings.front().size() == 1) {
     return DelimiterMatcher::SingleUnit{strings.front().front()};
   }
-  DelimiterMatcher::StringList list;
-  list.strings.reserve(strings.size());
-  std::size_t num_lone_units = 0;
-  for (std::u16string const& string : strings) {
-    if (string.empty() || string.find(end_mark) != std::u16string::npos) {
-      continue;
-    }
-    list.strings.push_back(string);
-    char16_t const first_unit = string.front();
-    if (list.first_units.find(first_unit) == std::u16string::npos) {
-      list.first_units.push_back(first_unit);
-      if (string.size() == 1 && num_lone_units < list.lone_units.size()) {
-        list.lone_units[num_lone_units] = first_unit;
-        ++num_lone_units;
-      }
-    }
-    list.lowest_first_unit = std::min(list.lowest_first_unit, first_unit);
-    list.highest_first_unit = std::max(list.highest_first_unit, first_unit);
-  }
-  return list;
+  return DelimiterMatcher::StringList(strings);
 }
 
 }  // namespace
 
+DelimiterMatcher::StringList::StringList(std::vector<std::u16string> const& strings) {
+  strings_.reserve(strings.size());
+  for (std::u16string const& string : strings) {
+    if (!string.empty() && string.find(end_mark) == std::u16string::npos) {
+      add(string);
+    }
+  }
+}
+
+void DelimiterMatcher::StringList::add(std::u16string const& string) {
+  strings_.push_back(string);
+  char16_t const first_unit = string.front();
+  if (first_units_.find(first_unit) == std::u16string::npos) {
+    first_units_.push_back(first_unit);
+    // The first of its unit that is alone matches before any longer string of that unit can.
+    auto const free = std::find(lone_units_.begin(), lone_units_.end(), end_mark);
+    if (string.size() == 1 && free != lone_units_.end()) {
+      *free = first_unit;
+    }
+  }
+  lowest_first_unit_ = std::min(lowest_first_unit_, first_unit);
+  highest_first_unit_ = std::max(highest_first_unit_, first_unit);
+}
+
 std::size_t DelimiterMatcher::StringList::length_of_match(
     std::u16string_view const text) const noexcept {
-  if (first_units.find(text.front()) == std::u16string::npos) {
+  if (first_units_.find(text.front()) == std::u16string::npos) {
     return 0;
   }
-  for (std::u16string const& string : strings) {
+  for (std::u16string const& string : strings_) {
     if (string.front() == text.front() && (string.size() == 1 || text.starts_with(string))) {
       return string.size();
     }
@@ -68,7 +73,7 @@ std::u16string DelimiterMatcher::first_units() const {
   if (auto const* const single = std::get_if<SingleUnit>(&mode_)) {
     return {single->unit};
   }
-  return std::get<StringList>(mode_).first_units;
+  return std::get<StringList>(mode_).first_units();
 }
 
 std::shared_ptr<DelimiterMatcher const> get_or_create_delim(

@@ -34,26 +34,35 @@ class TFD_API DelimiterMatcher {
   };
 
   /// Any other list, the empty one included.
-  struct StringList {
-    std::vector<std::u16string> strings;  ///< in list order
-    std::u16string first_units;           ///< the first code unit of each string, once
-    char16_t lowest_first_unit = 0xFFFF;  ///< no string begins with a code unit below this one
-    char16_t highest_first_unit = 0;      ///< nor with one above this
-    /// Up to two units at which a string of that unit alone matches, the most common match.
-    std::array<char16_t, 2> lone_units{0xFFFF, 0xFFFF};
+  class StringList {
+   public:
+    TFD_LOCAL explicit StringList(std::vector<std::u16string> const& strings);
 
     /// The length of the first string of the list that stands at `pos` in full, else 0.
     [[nodiscard]] std::size_t length_at(std::u16string_view const text,
                                         std::size_t const pos) const noexcept {
-      if (pos >= text.size() || text[pos] > highest_first_unit || text[pos] < lowest_first_unit) {
+      if (pos >= text.size() || text[pos] > highest_first_unit_ || text[pos] < lowest_first_unit_) {
         return 0;
       }
-      bool const is_lone = text[pos] == lone_units[0] || text[pos] == lone_units[1];
+      bool const is_lone = text[pos] == lone_units_[0] || text[pos] == lone_units_[1];
       return is_lone ? 1 : length_of_match(text.substr(pos));
     }
 
+    /// The first code unit of each string, once, in list order.
+    [[nodiscard]] std::u16string const& first_units() const noexcept { return first_units_; }
+
+   private:
+    TFD_LOCAL void add(std::u16string const& string);
+
     /// The length of the first string of the list that the text (not empty) begins with, else 0.
     [[nodiscard]] std::size_t length_of_match(std::u16string_view text) const noexcept;
+
+    std::vector<std::u16string> strings_;  // in list order
+    std::u16string first_units_;
+    char16_t lowest_first_unit_ = 0xFFFF;  // no string begins with a code unit below this one
+    char16_t highest_first_unit_ = 0;      // nor with one above this
+    // Up to two units at which a string of that unit alone matches, the most common match.
+    std::array<char16_t, 2> lone_units_{0xFFFF, 0xFFFF};
   };
 
   using Mode = std::variant<SingleUnit, StringList>;

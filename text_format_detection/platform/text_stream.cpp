@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The stream's buffer. Text that was passed stays in front of the current position until the
-// buffer has to grow anyway; the last slot is never filled, so that an end mark always follows.
+// The stream's buffer. Text that was passed stays in front of the current position until that
+// reaches the middle of the buffer; the last slot is never filled, so that an end mark always
+// follows.
 #include "text_format_detection/platform/text_stream.hpp"
 
 #include <algorithm>

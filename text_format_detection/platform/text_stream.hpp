@@ -22,7 +22,9 @@ struct UnfilledRoom : std::allocator<Unit> {
 /// A stream of UTF-16 text: a buffer that starts at the current position and grows on demand.
 ///
 /// Growing and refilling do not move the current position and are therefore const; they may move
-/// the buffer, so that views into it end there. Not for several threads at once.
+/// the buffer, so that views into it end there. Neither copied nor moved: a copy would drain the
+/// same source, and views stay with the stream that they were asked of. Not for several threads at
+/// once.
 class TFD_API TextStream {
  public:
   /// Writes up to `capacity` code units to `room`, which holds no values before, and returns how
@@ -32,6 +34,11 @@ class TFD_API TextStream {
   using Source = std::function<std::size_t(char16_t* room, std::size_t capacity)>;
 
   explicit TextStream(Source source);
+  TextStream(TextStream const&) = delete;
+  TextStream(TextStream&&) = delete;
+  TextStream& operator=(TextStream const&) = delete;
+  TextStream& operator=(TextStream&&) = delete;
+  ~TextStream() = default;
 
   /// The buffered text from the current position on, `buffered()` code units long. The slot behind
   /// the last one holds 0xFFFF. Valid until the stream grows, is refilled, advances or ends.

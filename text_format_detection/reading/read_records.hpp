@@ -27,11 +27,15 @@ struct ReadSummary {
 /// taken as they are: no strategy adjusts them, and the rules set to Error raise their errors.
 /// Stops when `record_count` records are counted or `line_limit` lines are scanned (`unknown_count`
 /// for no limit; comment lines count, and may exceed the limit by those of one comment), or at the
-/// end of the text; continue with the text behind `units_consumed`. Empty lines under the rule Read
-/// are stored and counted, and when the text ends with a line ending, one more empty record is
-/// stored. A record cut off by the end of a block is read as it stands: hand over blocks that end
-/// with a line ending (see get_fixed_stream).
-/// In fixed-width mode a record keeps at most as many fields as there are column widths, if any.
+/// end of the text; continue with the text behind `units_consumed`. A record cut off by the end of
+/// a block is read as it stands: hand over blocks that end with a line ending (see
+/// get_fixed_stream). In fixed-width mode a record keeps at most as many fields as there are column
+/// widths, if any.
+///
+/// Empty lines under the rule Read are stored and counted. Under this rule, when the loop runs to
+/// the end of a text whose last record ends with a line ending, one more empty record is stored:
+/// not in fixed-width mode, and not when a limit is reached with that record. Reading in blocks
+/// therefore adds one at the end of each block that is read to its end.
 ///
 /// The fields are views into `text`. Time is linear in what is consumed.
 /// Throws the five parser errors; the records stored before stay in `fields`. Throws

@@ -19,7 +19,8 @@
 namespace textio {
 
 /// A hypothesis. Made by the constructors of its subclasses, which differ only in how they adjust
-/// the options; sampled at most once (see evaluate_strategy); scored once, by valuation().
+/// the options; one made directly reads by the options as they are. Sampled at most once (see
+/// evaluate_strategy); scored once, by valuation().
 ///
 /// The sampled fields are views into the sample, which the caller keeps alive as long as they are
 /// used; everything else is the strategy's own. Not synchronised: valuation() writes on its first
@@ -44,7 +45,7 @@ class TFD_API GenericStrategy {
   [[nodiscard]] enums::StrategyMode mode() const noexcept { return mode_; }
 
   /// The header lines in force, or `unknown_count` while they are still to be detected. Counts
-  /// physical lines once the strategy is scored.
+  /// records of the sample, empty ones included: one that spans several lines in quotes is one.
   [[nodiscard]] std::size_t header_lines() const noexcept { return header_lines_; }
 
   /// Gives the number of header lines; `unknown_count` has them detected. Returns whether they are
@@ -87,7 +88,9 @@ class TFD_API GenericStrategy {
 
   /// The score. The first call computes it from the sampled fields, drops the empty records at
   /// their end, sets the header lines where they are to be detected, and freezes the result; later
-  /// calls return it. A strategy that was not sampled is scored as one without records.
+  /// calls return it. A strategy that was not sampled is scored as one without records, and stays
+  /// so whatever fields are handed in later. Throws std::bad_alloc; score, header lines and column
+  /// types are as before then, and the next call computes them.
   StrategyValuation const& valuation();
 
   /// Gives each variable its type code from the sampled fields, and adds the counts of the codes to
@@ -113,10 +116,6 @@ class TFD_API GenericStrategy {
   void set_prior_rank(double const rank) noexcept { valuation_.prior_rank = rank; }
 
  private:
-  void score(std::vector<std::size_t> const& counts);
-  void score_regular_lines(std::vector<std::size_t> const& counts, std::size_t typical,
-                           std::size_t skip);
-
   parser::options options_;
   StrategyValuation valuation_;
   bool detect_header_lines_;

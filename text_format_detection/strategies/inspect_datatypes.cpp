@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "text_format_detection/model/text_view_internal.hpp"
+#include "text_format_detection/strategies/column_inspection_internal.hpp"
 #include "text_format_detection/strategies/field_classifier_internal.hpp"
 #include "text_format_detection/strategies/generic_strategy.hpp"
 
@@ -34,7 +35,8 @@ class FieldCleaner {
     if (options_.trim_whitespace) {
       text = model::trimmed(text, whitespace_);
     }
-    if (!text.empty() && text.front() == options_.leading_character) {
+    char16_t const leading = options_.leading_character;
+    if (leading != end_mark && !text.empty() && text.front() == leading) {
       text.remove_prefix(1);
     }
     return is_missing(text) ? std::u16string_view{} : text;
@@ -114,19 +116,32 @@ void count_types(std::vector<unsigned char> const& codes, StrategyValuation& val
 
 }  // namespace
 
-void GenericStrategy::inspect_datatypes() {
-  ColumnTypes types(valuation_.num_variables, type_options_);
-  std::size_t record = field_array_ ? field_array_->num_records() : 0;
-  while (record > 0 && record - 1 > header_lines_ && !types.all_settled()) {
+namespace strategies {
+
+std::vector<unsigned char> inspect_columns(FieldArray const* const fields,
+                                           std::size_t const header_lines,
+                                           TypeAnalyzerOptions const& options,
+                                           StrategyValuation& score) {
+  ColumnTypes types(score.num_variables, options);
+  std::size_t record = fields != nullptr ? fields->num_records() : 0;
+  while (record > 0 && record - 1 > header_lines && !types.all_settled()) {
     --record;
-    auto const fields = field_array_->record(record);
-    if (static_cast<std::int32_t>(fields.size()) >= valuation_.typical_fields) {
-      types.inspect(fields);
+    auto const values = fields->record(record);
+    if (static_cast<std::int32_t>(values.size()) >= score.typical_fields) {
+      types.inspect(values);
     }
   }
-  column_types_ = types.take_codes();
+  std::vector<unsigned char> codes = types.take_codes();
+  count_types(codes, score);
+  return codes;
+}
+
+}  // namespace strategies
+
+void GenericStrategy::inspect_datatypes() {
+  column_types_ =
+      strategies::inspect_columns(field_array_.get(), header_lines_, type_options_, valuation_);
   columns_inspected_ = true;
-  count_types(column_types_, valuation_);
 }
 
 }  // namespace textio
