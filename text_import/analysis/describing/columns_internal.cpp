@@ -226,13 +226,14 @@ std::vector<DescribedColumn> describe_columns(Reading const& r, HeaderRows const
 }
 
 DescribedColumn describe_lines(LineIndex const& lines, std::size_t const first,
-                               std::size_t const end, ValueGrammar const& values) {
+                               std::size_t const end, ValueGrammar const& values,
+                               std::vector<Column> const& given) {
   constexpr std::size_t enough = 1000;
   ColumnSummary summary;
   for (std::size_t i = first; i < std::min(end, first + enough); ++i) {
     summary.add(lines[i], values);
   }
-  return summary.finish(summary.has_decimal_comma(), nullptr);
+  return summary.finish(summary.has_decimal_comma(), given.size() == 1 ? given.data() : nullptr);
 }
 
 void place_columns(std::vector<Column>& columns, std::vector<std::size_t> const& widths,

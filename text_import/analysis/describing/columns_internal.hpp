@@ -26,8 +26,10 @@ struct DescribedColumn {
                                                             std::vector<Column> const& given);
 
 /// The one column of a text that is read line by line, from a line up to, not including, `end`.
+/// `given`: as above.
 [[nodiscard]] DescribedColumn describe_lines(LineIndex const& lines, std::size_t first,
-                                             std::size_t end, ValueGrammar const& values);
+                                             std::size_t end, ValueGrammar const& values,
+                                             std::vector<Column> const& given);
 
 /// Sets the extents of fixed-width columns, from the lines up to, not including, `end`.
 void place_columns(std::vector<Column>& columns, std::vector<std::size_t> const& widths,

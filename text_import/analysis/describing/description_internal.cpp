@@ -28,7 +28,7 @@ Origin given_or(bool const is_given, Origin const otherwise) {
   return is_given ? Origin::Given : otherwise;
 }
 
-/// The records from the given physical line on are the data.
+/// The records from the given physical line on are the data, of which there are some.
 HeaderRows rows_behind(Reading const& r, std::size_t const first_line) {
   auto const first = std::ranges::find_if(
       r.records, [&](RecordPlace const& record) { return record.line >= first_line; });
@@ -95,8 +95,11 @@ class Describer {
     set_layout(r);
     set_quoting(r.quote, hypothesis.quotes_are_ordinary || hypothesis.apostrophes_quote);
     set_comments(r.strategy->options().comment_style, !hypothesis.comment_markers.empty());
-    if (r.block.regular == 0) {  // no table, yet the caller says how to read it
+    bool const is_behind_all =
+        given_.first && (r.records.empty() || r.records.back().line < *given_.first);
+    if (r.block.regular == 0 || is_behind_all) {  // no table, yet the caller says how to read it
       set_columns(std::vector<DescribedColumn>(std::max<std::size_t>(r.block.columns, 1)));
+      format().region.first_line = given_.first.value_or(0);
       format().region.end_line = lines_.count();
     } else {
       describe_rows(r);
@@ -112,8 +115,9 @@ class Describer {
     set_quoting(quote_of(task_.parsing), false);
     set_comments(task_.parsing.comment_style, false);
     std::size_t const first = first_of_list();
-    std::size_t const end = given_.end.value_or(lines_.count());
-    auto column = describe_lines(lines_, first, end, ValueGrammar(u'"', values()));
+    std::size_t const end = given_.end.value_or(without_blank_end(first));
+    auto column =
+        describe_lines(lines_, first, end, ValueGrammar(u'"', values()), given_columns());
     format().region.first_line = first;
     bool const may_have_names = first > 0 && (given_.name_lines ? !given_.name_lines->empty()
                                                                 : !given_.first.has_value());
@@ -127,13 +131,28 @@ class Describer {
     set_names(format().columns, std::move(names));
     if (!task_.goes_on) {
       format().region.end_line = end;
+      for (std::size_t line = end; line < lines_.count(); ++line) {
+        said_.lines.push_back({line, LineRole::Blank});
+      }
     }
     set_marks();
-    return finish(lines_.count());
+    return finish(end - std::min(first, end));
   }
 
  private:
   [[nodiscard]] Format& format() { return said_.format; }
+
+  [[nodiscard]] std::vector<Column> given_columns() const {
+    return task_.request.format ? task_.request.format->columns : std::vector<Column>();
+  }
+
+  [[nodiscard]] std::size_t without_blank_end(std::size_t const first) const {
+    std::size_t end = lines_.count();
+    while (end > first && trimmed(lines_[end - 1]).empty()) {
+      --end;
+    }
+    return end;
+  }
 
   [[nodiscard]] ValueRequest const& values() const { return task_.request.values; }
 
@@ -190,8 +209,7 @@ class Describer {
     if (r.layout == Layout::Delimited && lines_.hold(u' ')) {
       format().layout.has_blanks_around_delimiters = has_blanks_around(r, rows);
     }
-    auto const given = task_.request.format ? task_.request.format->columns : std::vector<Column>();
-    set_columns(describe_columns(r, rows, given));
+    set_columns(describe_columns(r, rows, given_columns()));
     set_names(format().columns, std::move(around.names));
     format().region.name_lines = std::move(around.name_lines);
     format().region.first_line = around.data_starts_at;
@@ -258,7 +276,7 @@ class Describer {
       return 0;
     }
     ValueGrammar const grammar(quote_of(task_.parsing), values());
-    ValueType const type = describe_lines(lines_, 1, lines_.count(), grammar).column.type;
+    ValueType const type = describe_lines(lines_, 1, lines_.count(), grammar, {}).column.type;
     bool const has_values = type != ValueType::Text && type != ValueType::Empty;
     bool const is_value = is_typed(grammar.look_at(lines_[0]).shape);
     return has_values && !is_value ? 1 : 0;

@@ -39,7 +39,8 @@ void place_records(Reading& r, LineIndex const& lines) {
   }
 }
 
-/// The stretch of records with the largest surplus of regular over irregular ones.
+/// The stretch of records with the largest surplus of regular over irregular ones, the longest of
+/// equal ones: behind a spoilt record the table goes on.
 TableBlock best_block(std::vector<RecordPlace> const& records, std::size_t const columns) {
   TableBlock best;
   TableBlock current;
@@ -53,7 +54,7 @@ TableBlock best_block(std::vector<RecordPlace> const& records, std::size_t const
       ++current.regular;
       current.last = i;
       auto const surplus = static_cast<std::ptrdiff_t>(current.regular - current.irregular);
-      if (surplus > best_surplus) {
+      if (surplus >= best_surplus) {
         best = current;
         best_surplus = surplus;
       }
