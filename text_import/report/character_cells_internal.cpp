@@ -1,0 +1,2 @@
+// SPDX-License-Identifier: MIT
+#include "text_import/report/character_cells_internal.hpp"

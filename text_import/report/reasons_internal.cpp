@@ -1,0 +1,220 @@
+// SPDX-License-Identifier: MIT
+#include "text_import/report/reasons_internal.hpp"
+
+#include <algorithm>
+#include <string_view>
+#include <tuple>
+#include <vector>
+
+#include <fmt/format.h>
+
+#include "text_import/report/engine_rules_internal.hpp"
+#include "text_import/report/reading_words_internal.hpp"
+
+namespace textimport::reporting {
+
+namespace {
+
+using EngineReason = textio::detection::Reason;
+using textio::detection::DetectionReport;
+using textio::enums::StrategyMode;
+
+/// "every line has 6 fields at commas".
+std::string lines_clause(Candidate const& candidate) {
+  std::string const fields = fields_text(candidate);
+  return candidate.coverage >= 1
+             ? fmt::format("every line has {}", fields)
+             : fmt::format("{} of the lines have {}", share_text(candidate.coverage), fields);
+}
+
+/// Which kinds of types other than text there are.
+std::string kinds_text(std::vector<Column> const& columns) {
+  bool has_numbers = false;
+  bool has_times = false;
+  bool has_others = false;
+  for (Column const& column : columns) {
+    switch (column.type) {
+      case ValueType::Integer:
+      case ValueType::Real:
+      case ValueType::Complex:
+        has_numbers = true;
+        break;
+      case ValueType::Date:
+      case ValueType::DateTime:
+      case ValueType::Time:
+      case ValueType::Duration:
+        has_times = true;
+        break;
+      case ValueType::Boolean:
+      case ValueType::Hexadecimal:
+      case ValueType::Binary:
+        has_others = true;
+        break;
+      case ValueType::Empty:
+      case ValueType::Text:
+        break;
+    }
+  }
+  std::vector<std::string_view> kinds;
+  if (has_numbers) {
+    kinds.emplace_back("numbers");
+  }
+  if (has_times) {
+    kinds.emplace_back("dates or times");
+  }
+  if (has_others) {
+    kinds.emplace_back("other values than text");
+  }
+  return fmt::format("{}", fmt::join(kinds, " or "));
+}
+
+/// "4 of 6 columns are numbers or dates".
+std::string types_clause(std::vector<Column> const& columns) {
+  auto const tells = [](Column const& column) {
+    return column.type != ValueType::Text && column.type != ValueType::Empty;
+  };
+  auto const telling = static_cast<std::size_t>(std::ranges::count_if(columns, tells));
+  if (telling == 0) {
+    return "no column is more than text";
+  }
+  std::string const count = telling < columns.size()
+                                ? fmt::format("{} of {} columns", telling, columns.size())
+                                : fmt::format("all {} columns", columns.size());
+  return fmt::format("{} are {}", count, kinds_text(columns));
+}
+
+std::string next_best(Evidence const& evidence) {
+  if (!evidence.runner_up) {
+    return evidence.candidates.size() == 1 ? "nothing else splits the lines"
+                                           : "no other reading as a table holds";
+  }
+  return fmt::format("next best: {}, {}",
+                     fields_text(evidence.candidates[evidence.runner_up->candidate]),
+                     share_text(evidence.runner_up->certainty));
+}
+
+std::string why_table(Analysis const& analysis) {
+  Evidence const& evidence = analysis.evidence;
+  if (!evidence.winner) {
+    return next_best(evidence);
+  }
+  return fmt::format("{}, {}; {}", lines_clause(evidence.candidates[*evidence.winner]),
+                     types_clause(analysis.format.columns), next_best(evidence));
+}
+
+/// The reading that got the farthest.
+Candidate const& nearest_to_a_table(Evidence const& evidence) {
+  auto const distance = [](Candidate const& candidate) {
+    return std::tuple(candidate.rule.value_or(0), candidate.coverage * candidate.soundness);
+  };
+  return *std::ranges::max_element(evidence.candidates, {}, distance);
+}
+
+std::string why_lines(Evidence const& evidence) {
+  std::size_t const count = evidence.candidates.size();
+  if (count == 0) {
+    return "nothing splits the lines into columns";
+  }
+  Candidate const& nearest = nearest_to_a_table(evidence);
+  std::string const subject =
+      count == 1 ? fmt::format("the only reading as a table, {}, does not hold",
+                               fields_text(nearest))
+                 : fmt::format("none of {} readings as a table holds; the nearest is {}", count,
+                               fields_text(nearest));
+  if (!nearest.rule) {
+    return subject;
+  }
+  RuleText const& rule = evidence.rules[*nearest.rule];
+  return fmt::format("{}, but {}: {}", subject, rule.meaning, measure_text(rule, nearest.measure));
+}
+
+std::string why_given(LayoutFormat const& layout) {
+  if (layout.delimiters_origin == Origin::Given) {
+    return "the delimiter is given";
+  }
+  return layout.widths_origin == Origin::Given ? "the widths are given" : "the layout is given";
+}
+
+std::string nothing_there(Analysis const& analysis) {
+  return analysis.lines.text().empty() ? "the file is empty" : "the text holds nothing but blanks";
+}
+
+/// The candidates that the last rule left, by name.
+std::string level_candidates(DetectionReport const& engine) {
+  std::vector<std::string> names;
+  if (!engine.steps.empty()) {
+    for (std::size_t const position : engine.steps.back().survivors) {
+      names.push_back(reading_name(*engine.candidates[position]));
+    }
+  }
+  return fmt::format("{}", fmt::join(names, ", "));
+}
+
+std::string why_single(DetectionReport const& engine) {
+  std::size_t const tried = engine.sampled.size();
+  bool const is_fixed = engine.candidates.front()->mode() == StrategyMode::FixedWidth;
+  if (is_fixed && tried <= 2) {
+    return "the columns are what the blanks common to all lines leave";
+  }
+  return tried == 1
+             ? "the only reading that was tried, and it splits the lines regularly"
+             : fmt::format(
+                   "of {} readings that were tried, only this one splits the lines regularly",
+                   tried);
+}
+
+std::string why_ranked(DetectionReport const& engine) {
+  return fmt::format("of {} regular readings, {}", engine.candidates.size(),
+                     engine_rule(engine.steps.back().rule).preference);
+}
+
+}  // namespace
+
+std::string why(DetectionReport const& engine) {
+  switch (engine.reason) {
+    case EngineReason::DateColumns:
+      return "each line as a whole is a date or a time; the comma is a fallback";
+    case EngineReason::NoRecords:
+      return "there are no records";
+    case EngineReason::NoCandidates:
+      return "no character splits the lines into a regular number of fields";
+    case EngineReason::Single:
+      return why_single(engine);
+    case EngineReason::Ranked:
+      return why_ranked(engine);
+    case EngineReason::Tie:
+      return fmt::format("the rules left several readings level ({}); the comma is a fallback",
+                         level_candidates(engine));
+    case EngineReason::NoneLeft:
+      break;
+  }
+  return "the rules left no reading";
+}
+
+std::string why(Analysis const& analysis) {
+  switch (analysis.reason) {
+    case Reason::NoRecords:
+      return nothing_there(analysis);
+    case Reason::Given:
+      return why_given(analysis.format.layout);
+    case Reason::OnlyReading:
+    case Reason::BestReading:
+      return why_table(analysis);
+    case Reason::NoTable:
+      return why_lines(analysis.evidence);
+    case Reason::EngineDecided:
+      return analysis.engine ? why(*analysis.engine) : why_given(analysis.format.layout);
+    case Reason::Unsure:
+      return "too little speaks for the best reading: " + why_table(analysis);
+    case Reason::ColumnsDiffer:
+      return fmt::format("it has {}, and another number is expected",
+                         counted(analysis.format.columns.size(), "column"));
+    case Reason::LayoutNotFound:
+      return "nothing splits the lines as the given layout asks for";
+    case Reason::StartNotFound:
+      break;
+  }
+  return "no line is the one behind which the data should begin";
+}
+
+}  // namespace textimport::reporting
