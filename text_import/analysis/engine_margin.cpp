@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+
 #include "text_import/analysis/engine_margin.hpp"
 
 #include <algorithm>
@@ -7,30 +8,30 @@
 
 namespace textimport {
 
-EngineMargin engine_margin(textio::detection::DetectionReport const& engine) {
-  EngineMargin result;
-  if (!engine.winner || engine.steps.empty()) {
-    return result;
+EngineMargin engine_margin(textio::detection::DetectionReport const& report) {
+  EngineMargin found;
+  if (!report.winner || report.steps.empty()) {
+    return found;
   }
-  auto const& last = engine.steps.back();
-  auto const place = std::ranges::find(last.seen, *engine.winner) - last.seen.begin();
-  double const winning = last.measures[static_cast<std::size_t>(place)];
+  auto const& last = report.steps.back();
+  auto const winner = std::ranges::find(last.seen, *report.winner);
+  double const winning = last.measures[static_cast<std::size_t>(winner - last.seen.begin())];
   double nearest = std::numeric_limits<double>::infinity();
   for (std::size_t i = 0; i < last.seen.size(); ++i) {
     double const distance = std::abs(last.measures[i] - winning);
-    if (last.seen[i] == *engine.winner || distance > nearest) {
+    if (last.seen[i] == *report.winner || distance > nearest) {
       continue;
     }
     if (distance < nearest) {
-      result.runners_up.clear();
+      found.runners_up.clear();
       nearest = distance;
     }
-    result.runners_up.push_back(last.seen[i]);
+    found.runners_up.push_back(last.seen[i]);
   }
   if (std::isfinite(nearest)) {
-    result.margin = nearest;
+    found.margin = nearest;
   }
-  return result;
+  return found;
 }
 
 }  // namespace textimport

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// By how much the engine's answer won.
+// How close the engine's decision was.
 #pragma once
 
 #include <cstddef>
@@ -12,16 +12,15 @@
 
 namespace textimport {
 
-/// The readings that came nearest to the engine's answer.
 struct EngineMargin {
-  /// Of the candidates that fell at the last rule, those nearest to the winner; positions in
-  /// DetectionReport::candidates. None when no rule ran or nothing won.
+  /// Of the candidates that fell at the last rule, those nearest to the winner: positions in
+  /// DetectionReport::candidates, ascending. Empty when no rule decided.
   std::vector<std::size_t> runners_up;
-  /// How far they are off the winner, in the measure of that rule; empty where that is no number.
+  /// How far they are off the winner, in the measure of the last rule. Empty without them.
   std::optional<double> margin;
 };
 
 [[nodiscard]] TEXT_IMPORT_API EngineMargin
-engine_margin(textio::detection::DetectionReport const& engine);
+engine_margin(textio::detection::DetectionReport const& report);
 
 }  // namespace textimport

@@ -173,8 +173,7 @@ void add_layout(FactLines& facts, Analysis const& analysis) {
 void add_confidence(FactLines& facts, Analysis const& analysis) {
   if (is_weighed(analysis.reason)) {
     double const certainty = analysis.certainty.layout;
-    facts.add("how sure",
-              fmt::format("{}, {}", share_text(certainty), confidence_word(certainty)));
+    facts.add("how sure", fmt::format("{}, {}", share_text(certainty), confidence_word(certainty)));
   }
 }
 

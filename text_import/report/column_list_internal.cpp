@@ -179,15 +179,12 @@ std::string list_line(List const& list, std::size_t const row, std::string const
 std::string column_list(Format const& format, std::vector<ColumnRun> const& runs,
                         std::size_t const width) {
   constexpr std::size_t most = 40;
-  List list{.rows = {{{"#", 1},
-                      {"name", 4},
-                      {"type", 4},
-                      {"longest", 7},
-                      {"characters", 10},
-                      {"bytes", 5}}},
-            .widths = {},
-            .shown = telling_cells(format, runs),
-            .width = width};
+  List list{
+      .rows =
+          {{{"#", 1}, {"name", 4}, {"type", 4}, {"longest", 7}, {"characters", 10}, {"bytes", 5}}},
+      .widths = {},
+      .shown = telling_cells(format, runs),
+      .width = width};
   for (std::size_t i = 0; i < std::min(runs.size(), most); ++i) {
     list.rows.push_back(cells_of(runs[i], std::clamp<std::size_t>(width / 4, 10, 28)));
   }

@@ -67,8 +67,7 @@ std::string answer_text(DetectionReport const& engine) {
   GenericStrategy& strategy =
       engine.winner ? *engine.candidates[*engine.winner] : *engine.line_reader;
   auto const& score = strategy.valuation();
-  return fmt::format("{}, {}, {}", reading_name(strategy),
-                     counted(score.num_variables, "column"),
+  return fmt::format("{}, {}, {}", reading_name(strategy), counted(score.num_variables, "column"),
                      counted(header_lines_of(score.header_lines), "header line"));
 }
 
@@ -139,8 +138,8 @@ std::string with_numbers(DetectionReport const& engine, RuleStep const& rule, bo
   for (std::size_t i = 0; i < rule.seen.size(); ++i) {
     std::size_t const candidate = rule.seen[i];
     if (std::ranges::binary_search(rule.survivors, candidate) == kept) {
-      readings.push_back({candidate, reading_name(*engine.candidates[candidate]),
-                          rule.measures[i], number_text(rule.measures[i])});
+      readings.push_back({candidate, reading_name(*engine.candidates[candidate]), rule.measures[i],
+                          number_text(rule.measures[i])});
     }
   }
   return numbered_list(std::move(readings));

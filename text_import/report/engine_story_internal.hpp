@@ -10,7 +10,8 @@
 
 namespace textimport::reporting {
 
-/// The engine's answer, the characters and readings that it tried, and the rules that compared them.
+/// The engine's answer, the characters and readings that it tried, and the rules that compared
+/// them.
 [[nodiscard]] std::string engine_story(textio::detection::DetectionReport const& engine,
                                        ReportStyle const& style);
 

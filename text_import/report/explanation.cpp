@@ -18,10 +18,9 @@ namespace {
 
 std::string answer_text(Analysis const& analysis) {
   Format const& format = analysis.format;
-  std::string const reading =
-      fmt::format("{}, {}, data from line {} on", reporting::reading_name(format.layout),
-                  reporting::counted(format.columns.size(), "column"),
-                  format.region.first_line + 1);
+  std::string const reading = fmt::format(
+      "{}, {}, data from line {} on", reporting::reading_name(format.layout),
+      reporting::counted(format.columns.size(), "column"), format.region.first_line + 1);
   return analysis.decided ? reading : "not decided; read as " + reading;
 }
 

@@ -26,7 +26,7 @@ std::string noted_line(NotedLine const& noted, std::u16string_view const text,
 }
 
 void add_lines(FactLines& facts, std::string_view const where,
-               std::span<NotedLine const> const noted, analysis::LineIndex const& lines) {
+               std::span<NotedLine const> const noted, LineIndex const& lines) {
   constexpr std::size_t most = 12;
   constexpr std::size_t most_at_top = 6;
   if (noted.empty()) {
@@ -41,9 +41,8 @@ void add_lines(FactLines& facts, std::string_view const where,
       facts.text() += fmt::format("         ({} more)\n", i - most_at_top);
     }
     std::size_t const line = noted[i].line;
-    facts.text() +=
-        noted_line(noted[i], line < lines.count() ? lines[line] : std::u16string_view(),
-                   number_cells, facts.width());
+    facts.text() += noted_line(noted[i], line < lines.count() ? lines[line] : std::u16string_view(),
+                               number_cells, facts.width());
   }
 }
 
@@ -51,9 +50,8 @@ void add_lines(FactLines& facts, std::string_view const where,
 
 void add_noted_lines(FactLines& facts, Analysis const& analysis) {
   std::span<NotedLine const> const all(analysis.evidence.lines);
-  auto const below = std::ranges::find_if(all, [&](NotedLine const& noted) {
-    return noted.line >= analysis.format.region.first_line;
-  });
+  auto const below = std::ranges::find_if(
+      all, [&](NotedLine const& noted) { return noted.line >= analysis.format.region.first_line; });
   auto const above = static_cast<std::size_t>(below - all.begin());
   add_lines(facts, "above", all.first(above), analysis.lines);
   add_lines(facts, "below", all.subspan(above), analysis.lines);

@@ -10,6 +10,7 @@
 
 #include "text_import/report/engine_rules_internal.hpp"
 #include "text_import/report/reading_words_internal.hpp"
+#include "text_import/report/sampled_part_internal.hpp"
 
 namespace textimport::reporting {
 
@@ -20,67 +21,67 @@ using textio::detection::DetectionReport;
 using textio::enums::StrategyMode;
 
 /// "every line has 6 fields at commas".
-std::string lines_clause(Candidate const& candidate) {
+std::string lines_clause(Analysis const& analysis, Candidate const& candidate) {
   std::string const fields = fields_text(candidate);
-  return candidate.coverage >= 1
-             ? fmt::format("every line has {}", fields)
+  if (candidate.coverage >= 1) {
+    return "every line has " + fields;
+  }
+  SampledPart const part = sampled_part(analysis);
+  bool const are_whole = part.num_records > 0 && part.num_whole_records == part.num_records;
+  return analysis.decided && are_whole  // what stands against a guess is the text without data
+             ? "every line of the data has " + fields
              : fmt::format("{} of the lines have {}", share_text(candidate.coverage), fields);
 }
 
-/// Which kinds of types other than text there are.
-std::string kinds_text(std::vector<Column> const& columns) {
-  bool has_numbers = false;
-  bool has_times = false;
-  bool has_others = false;
-  for (Column const& column : columns) {
-    switch (column.type) {
-      case ValueType::Integer:
-      case ValueType::Real:
-      case ValueType::Complex:
-        has_numbers = true;
-        break;
-      case ValueType::Date:
-      case ValueType::DateTime:
-      case ValueType::Time:
-      case ValueType::Duration:
-        has_times = true;
-        break;
-      case ValueType::Boolean:
-      case ValueType::Hexadecimal:
-      case ValueType::Binary:
-        has_others = true;
-        break;
-      case ValueType::Empty:
-      case ValueType::Text:
-        break;
-    }
+/// What a type is one of, in a word for many of them; empty for text and for no values.
+std::string_view kind_of(ValueType const type) {
+  switch (type) {
+    case ValueType::Integer:
+    case ValueType::Real:
+    case ValueType::Complex:
+      return "numbers";
+    case ValueType::Date:
+    case ValueType::DateTime:
+      return "dates";
+    case ValueType::Time:
+    case ValueType::Duration:
+      return "times";
+    case ValueType::Boolean:
+    case ValueType::Hexadecimal:
+    case ValueType::Binary:
+      return "codes";
+    case ValueType::Empty:
+    case ValueType::Text:
+      break;
   }
-  std::vector<std::string_view> kinds;
-  if (has_numbers) {
-    kinds.emplace_back("numbers");
-  }
-  if (has_times) {
-    kinds.emplace_back("dates or times");
-  }
-  if (has_others) {
-    kinds.emplace_back("other values than text");
-  }
-  return fmt::format("{}", fmt::join(kinds, " or "));
+  return "";
 }
 
-/// "4 of 6 columns are numbers or dates".
+/// "numbers, dates or times": the kinds that there are.
+std::string kinds_text(std::vector<Column> const& columns) {
+  std::vector<std::string_view> kinds;
+  for (std::string_view const kind : {"numbers", "dates", "times", "codes"}) {
+    auto const is_kind = [&](Column const& column) { return kind_of(column.type) == kind; };
+    if (std::ranges::any_of(columns, is_kind)) {
+      kinds.push_back(kind);
+    }
+  }
+  std::string const last(kinds.back());
+  kinds.pop_back();
+  return kinds.empty() ? last : fmt::format("{} or {}", fmt::join(kinds, ", "), last);
+}
+
+/// "4 of 6 columns hold numbers or dates".
 std::string types_clause(std::vector<Column> const& columns) {
-  auto const tells = [](Column const& column) {
-    return column.type != ValueType::Text && column.type != ValueType::Empty;
-  };
+  auto const tells = [](Column const& column) { return !kind_of(column.type).empty(); };
   auto const telling = static_cast<std::size_t>(std::ranges::count_if(columns, tells));
   if (telling == 0) {
-    return "no column is more than text";
+    return "no column holds more than text";
   }
   std::string const count = telling < columns.size()
                                 ? fmt::format("{} of {} columns", telling, columns.size())
-                                : fmt::format("all {} columns", columns.size());
-  return fmt::format("{} are {}", count, kinds_text(columns));
+                                : fmt::format("all {} columns", telling);
+  return fmt::format("{} {} {}", count, telling == 1 ? "holds" : "hold", kinds_text(columns));
 }
 
 std::string next_best(Evidence const& evidence) {
@@ -98,7 +99,7 @@ std::string why_table(Analysis const& analysis) {
   if (!evidence.winner) {
     return next_best(evidence);
   }
-  return fmt::format("{}, {}; {}", lines_clause(evidence.candidates[*evidence.winner]),
+  return fmt::format("{}, {}; {}", lines_clause(analysis, evidence.candidates[*evidence.winner]),
                      types_clause(analysis.format.columns), next_best(evidence));
 }
 
@@ -117,10 +118,10 @@ std::string why_lines(Evidence const& evidence) {
   }
   Candidate const& nearest = nearest_to_a_table(evidence);
   std::string const subject =
-      count == 1 ? fmt::format("the only reading as a table, {}, does not hold",
-                               fields_text(nearest))
-                 : fmt::format("none of {} readings as a table holds; the nearest is {}", count,
-                               fields_text(nearest));
+      count == 1
+          ? fmt::format("the only reading as a table, {}, does not hold", fields_text(nearest))
+          : fmt::format("none of {} readings as a table holds; the nearest is {}", count,
+                        fields_text(nearest));
   if (!nearest.rule) {
     return subject;
   }

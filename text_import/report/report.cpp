@@ -8,9 +8,9 @@
 #include "text_import/format/words.hpp"
 #include "text_import/report/answer_facts_internal.hpp"
 #include "text_import/report/column_list_internal.hpp"
+#include "text_import/report/display_text.hpp"
 #include "text_import/report/first_rows_internal.hpp"
 #include "text_import/report/headings_internal.hpp"
-#include "text_import/report/display_text.hpp"
 #include "text_import/report/noted_lines_internal.hpp"
 #include "text_import/report/reading_words_internal.hpp"
 #include "text_import/report/reasons_internal.hpp"
@@ -60,7 +60,9 @@ std::string report_line(Analysis const& analysis, ReportSubject const& subject) 
       display_bytes(subject.path).utf8,
       fmt::format("{}{}", analysis.decided ? "" : "undecided: ", word_of(format.layout.layout)),
       splits_text(format.layout),
-      fmt::format("{}", format.region.first_line + 1),
+      format.region.first_line < analysis.lines.count()
+          ? fmt::format("{}", format.region.first_line + 1)
+          : "-",
       fmt::format("{}", format.columns.size()),
       format.source.encoding.empty() ? "-" : display_bytes(format.source.encoding).utf8,
       reporting::share_text(analysis.certainty.layout)};

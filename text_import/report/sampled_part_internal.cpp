@@ -2,6 +2,8 @@
 #include "text_import/report/sampled_part_internal.hpp"
 
 #include <algorithm>
+#include <span>
+#include <vector>
 
 #include "text_format_detection/model/field_array.hpp"
 
@@ -25,24 +27,30 @@ bool is_data(Region const& region, std::size_t const line) {
          !holds(region.other_lines, line);
 }
 
+/// Adds a record, which has fields.
+void add_record(SampledPart& part, Analysis const& analysis,
+                std::span<textio::Field const> const record) {
+  if (is_data(analysis.format.region, line_of(analysis, record.front().data()))) {
+    ++part.num_records;
+    part.num_whole_records += record.size() == analysis.format.columns.size() ? 1U : 0U;
+  }
+  textio::Field const& last = record.back();
+  part.num_lines = line_of(analysis, last.data() + last.length()) + 1;
+}
+
 }  // namespace
 
 SampledPart sampled_part(Analysis const& analysis) {
-  Region const& region = analysis.format.region;
   std::size_t const all = analysis.lines.count();
   SampledPart part;
-  if (analysis.strategy && analysis.strategy->field_array() && all > 0) {
-    auto const& fields = *analysis.strategy->field_array();
-    for (std::size_t i = 0; i < fields.num_records(); ++i) {
-      if (auto const record = fields.record(i); !record.empty()) {
-        part.num_records += is_data(region, line_of(analysis, record.front().data())) ? 1 : 0;
-        textio::Field const& last = record.back();
-        part.num_lines = line_of(analysis, last.data() + last.length()) + 1;
-      }
+  auto const& fields = *analysis.strategy->field_array();
+  for (std::size_t i = 0; i < fields.num_records() && all > 0; ++i) {
+    if (auto const record = fields.record(i); !record.empty()) {
+      add_record(part, analysis, record);
     }
   }
   // Where the data are seen to end, all lines behind them have been looked at too.
-  if (region.end_line) {
+  if (analysis.format.region.end_line) {
     part.num_lines = all;
   }
   part.is_all = !analysis.evidence.goes_on && part.num_lines == all;

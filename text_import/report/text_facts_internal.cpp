@@ -66,9 +66,9 @@ std::string compression_text(SourceFormat const& source) {
   if (source.compression == "none") {
     return {};
   }
-  return source.member.empty() ? source.compression
-                               : fmt::format("{}, member {}", source.compression,
-                                             display_bytes(source.member).utf8);
+  return source.member.empty()
+             ? source.compression
+             : fmt::format("{}, member {}", source.compression, display_bytes(source.member).utf8);
 }
 
 std::string text_text(SourceFormat const& source, ReportSubject const& subject) {

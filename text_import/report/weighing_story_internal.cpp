@@ -19,10 +19,9 @@ namespace textimport::reporting {
 namespace {
 
 std::string comments_text(std::vector<std::u16string> const& markers) {
-  return markers.size() == 1
-             ? fmt::format("comments start with {}", in_quotes(markers.front()))
-             : fmt::format("comments reach from {} to {}", in_quotes(markers[0]),
-                           in_quotes(markers[1]));
+  return markers.size() == 1 ? fmt::format("comments start with {}", in_quotes(markers.front()))
+                             : fmt::format("comments reach from {} to {}", in_quotes(markers[0]),
+                                           in_quotes(markers[1]));
 }
 
 /// What is assumed, and what in the text gives reason to.
@@ -41,9 +40,9 @@ std::string hypothesis_text(Hypothesis const& hypothesis) {
     assumed.push_back(comments_text(hypothesis.comment_markers));
     reasons.emplace_back("so do some lines");
   }
-  return assumed.empty() ? "what is given, and the usual where nothing is"
-                         : fmt::format("{}: {}", fmt::join(assumed, ", "),
-                                       fmt::join(reasons, "; "));
+  return assumed.empty()
+             ? "what is given, and the usual where nothing is"
+             : fmt::format("{}: {}", fmt::join(assumed, ", "), fmt::join(reasons, "; "));
 }
 
 /// A hypothesis is called by a letter in the table of readings.
