@@ -28,6 +28,7 @@ struct Hypothesis {
 struct RuleText {
   std::string_view name;     ///< "enough_text"
   std::string_view meaning;  ///< what it demands, and which number it looks at
+  bool measure_is_share = false;  ///< that number is a share, 0 to 1
 };
 
 /// One reading that was weighed.

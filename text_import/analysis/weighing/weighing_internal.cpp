@@ -11,10 +11,11 @@ namespace {
 
 /// In their order. The first asks for no values, so that only those of readings that pass it are
 /// looked at.
-constexpr std::array all_rules{
-    &regular_records,    &several_columns,   &enough_text,      &rare_delimiters, &sound_values,
-    &single_blanks,      &doubled_delimiters, &seconds_are_no_column, &keys_are_no_column,
-    &typed_fixed_width,  &touching_columns,  &best_fit,         &usual_delimiters};
+constexpr std::array all_rules{&regular_records,    &several_columns,       &enough_text,
+                               &rare_delimiters,    &sound_values,          &single_blanks,
+                               &doubled_delimiters, &seconds_are_no_column, &keys_are_no_column,
+                               &typed_fixed_width,  &touching_columns,      &best_fit,
+                               &usual_delimiters};
 
 KeptReadings all_of(std::vector<Reading> const& readings) {
   KeptReadings all(readings.size());
@@ -39,7 +40,7 @@ void run_rule(std::size_t const rule, std::vector<Reading> const& readings, Kept
 std::vector<RuleText> rule_texts() {
   std::vector<RuleText> texts;
   for (WeighingRule const* const rule : all_rules) {
-    texts.push_back({rule->name, rule->meaning});
+    texts.push_back({rule->name, rule->meaning, rule->measure_is_share});
   }
   return texts;
 }

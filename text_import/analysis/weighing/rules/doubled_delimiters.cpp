@@ -23,6 +23,6 @@ KeptReadings apply(KeptReadings const& kept, std::vector<Reading> const& reading
 WeighingRule const doubled_delimiters{
     "doubled_delimiters",
     "where a character stands in pairs only, the pair delimits; the share of empty fields", apply,
-    [](Reading const& r) { return r.empty_share; }};
+    [](Reading const& r) { return r.empty_share; }, true};
 
 }  // namespace textimport::analysis

@@ -44,10 +44,11 @@ bool is_enough(Reading const& r) {
 }  // namespace
 
 WeighingRule const enough_text{"enough_text",
-                               "a table makes up much of its text; the share of the text's records",
+                               "a table makes up much of its text, and what only blanks split has "
+                               "to say more than text besides; the share of the text's records",
                                [](KeptReadings const& kept, std::vector<Reading> const& readings) {
                                  return keep_if(kept, readings, is_enough);
                                },
-                               [](Reading const& r) { return r.coverage; }};
+                               [](Reading const& r) { return r.coverage; }, true};
 
 }  // namespace textimport::analysis

@@ -29,25 +29,28 @@ bool is_key_and_value(Reading const& r, std::span<textio::Field const> const rec
   return false;
 }
 
-bool has_real_columns(Reading const& r) {
+/// The share of the table's lines that are a name and its value.
+double key_share(Reading const& r) {
   if (r.layout == Layout::FixedWidth) {
-    return true;
+    return 0;
   }
   auto const& fields = *r.strategy->field_array();
   std::size_t keys = 0;
   for (std::size_t i = r.block.first; i <= r.block.last; ++i) {
     keys += is_key_and_value(r, fields.record(i)) ? 1U : 0U;
   }
-  return keys * 2 < r.block.regular;
+  return r.block.regular == 0 ? 1
+                              : static_cast<double>(keys) / static_cast<double>(r.block.regular);
 }
 
 }  // namespace
 
 WeighingRule const keys_are_no_column{
-    "keys_are_no_column", "\"name: value\" in each line is a list of settings; the columns",
+    "keys_are_no_column",
+    "\"name: value\" in each line is a list of settings; the share of such lines",
     [](KeptReadings const& kept, std::vector<Reading> const& readings) {
-      return keep_if(kept, readings, has_real_columns);
+      return keep_if(kept, readings, [](Reading const& r) { return key_share(r) < 0.5; });
     },
-    [](Reading const& r) { return static_cast<double>(r.block.columns); }};
+    key_share, true};
 
 }  // namespace textimport::analysis

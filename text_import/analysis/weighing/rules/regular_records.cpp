@@ -36,6 +36,6 @@ WeighingRule const regular_records{
     [](KeptReadings const& kept, std::vector<Reading> const& readings) {
       return keep_if(kept, readings, is_regular);
     },
-    [](Reading const& r) { return r.regularity; }};
+    [](Reading const& r) { return r.regularity; }, true};
 
 }  // namespace textimport::analysis

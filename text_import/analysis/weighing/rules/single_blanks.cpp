@@ -13,6 +13,6 @@ WeighingRule const single_blanks{
       return keep_if(kept, readings,
                      [](Reading const& r) { return r.delimiter != u" " || r.empty_share < 0.1; });
     },
-    [](Reading const& r) { return r.empty_share; }};
+    [](Reading const& r) { return r.empty_share; }, true};
 
 }  // namespace textimport::analysis

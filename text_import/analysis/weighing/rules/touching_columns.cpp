@@ -41,6 +41,6 @@ KeptReadings apply(KeptReadings const& kept, std::vector<Reading> const& reading
 WeighingRule const touching_columns{
     "touching_columns",
     "blanks separate columns only where none stands inside a value; the share of broken values",
-    apply, [](Reading const& r) { return r.broken_share; }};
+    apply, [](Reading const& r) { return r.broken_share; }, true};
 
 }  // namespace textimport::analysis

@@ -22,6 +22,7 @@ struct WeighingRule {
   KeptReadings (*apply)(KeptReadings const& kept, std::vector<Reading> const& readings);
   /// The number that the rule looks at, for people.
   double (*measure)(Reading const& r);
+  bool measure_is_share = false;  ///< that number is a share, 0 to 1
 };
 
 extern WeighingRule const regular_records;  // the only one that asks for no values
@@ -41,7 +42,7 @@ extern WeighingRule const usual_delimiters;
 /// Those of `kept` for which `keeps` holds.
 template <class Predicate>
 KeptReadings keep_if(KeptReadings const& kept, std::vector<Reading> const& readings,
-                      Predicate const keeps) {
+                     Predicate const keeps) {
   KeptReadings left;
   for (std::size_t const i : kept) {
     if (keeps(readings[i])) {

@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: MIT
+#include "text_import/report/answer_facts_internal.hpp"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include <fmt/format.h>
+
+#include "text_import/format/words.hpp"
+#include "text_import/report/character_names.hpp"
+#include "text_import/report/display_text.hpp"
+#include "text_import/report/format_rules_internal.hpp"
+#include "text_import/report/reading_words_internal.hpp"
+
+namespace textimport::reporting {
+
+namespace {
+
+std::string layout_text(Analysis const& analysis) {
+  LayoutFormat const& layout = analysis.format.layout;
+  if (!analysis.decided) {
+    return fmt::format("not decided; read as {}", word_of(layout.layout));
+  }
+  return fmt::format("{}{}", word_of(layout.layout), given_mark(layout.origin));
+}
+
+std::string widths_text(std::vector<std::size_t> const& widths) {
+  constexpr std::size_t most = 60;
+  std::size_t const shown = std::min(widths.size(), most);
+  return fmt::format("{}{}",
+                     fmt::join(widths.begin(), widths.begin() + std::ptrdiff_t(shown), ", "),
+                     and_more(widths.size() - shown));
+}
+
+std::string quote_text(QuotingFormat const& quoting) {
+  if (quoting.quote == 0) {
+    return "none; quotation marks belong to the values";
+  }
+  std::string const quote = display_text({&quoting.quote, 1}).utf8;
+  switch (quoting.escape_kind) {
+    case QuoteEscape::Doubled:
+      break;
+    case QuoteEscape::Character:
+      return fmt::format("{}, escaped by {}", quote, display_text({&quoting.escape, 1}).utf8);
+    case QuoteEscape::None:
+      return fmt::format("{}, which cannot stand in a value", quote);
+  }
+  return quote;
+}
+
+void add_quotes(FactLines& facts, QuotingFormat const& quoting) {
+  bool const is_usual = quoting.quote == u'"' && quoting.escape_kind == QuoteEscape::Doubled;
+  if (!is_usual || quoting.origin == Origin::Given) {
+    facts.add("quotes", fmt::format("{}{}", quote_text(quoting), given_mark(quoting.origin)));
+  }
+}
+
+void add_comments(FactLines& facts, CommentFormat const& comments) {
+  auto const& markers = comments.markers;
+  if (markers.empty()) {
+    if (comments.origin == Origin::Given) {
+      facts.add("comments", "none (given)");
+    }
+    return;
+  }
+  std::string const text =
+      markers.size() == 1 ? fmt::format("behind {}", in_quotes(markers.front()))
+                          : fmt::format("{} to {}", in_quotes(markers[0]), in_quotes(markers[1]));
+  facts.add("comments", fmt::format("{}{}", text, given_mark(comments.origin)));
+}
+
+std::string mark_text(char16_t const mark, Origin const origin) {
+  return fmt::format("{}{}", mark == 0 ? "none" : delimiter_name({&mark, 1}), given_mark(origin));
+}
+
+std::string missing_text(MarkFormat const& marks) {
+  constexpr std::size_t most = 12;
+  std::vector<std::string> words;
+  for (std::u16string const& word : marks.missing_words) {
+    if (words.size() < most) {
+      words.push_back(in_quotes(word));
+    }
+  }
+  std::size_t const rest = marks.missing_words.size() - words.size();
+  return words.empty() ? "no words (given)"
+                       : fmt::format("{}{} (given)", fmt::join(words, ", "), and_more(rest));
+}
+
+void add_marks(FactLines& facts, MarkFormat const& marks) {
+  if (marks.decimal_mark != u'.' || marks.decimal_mark_origin == Origin::Given) {
+    facts.add("decimal mark", mark_text(marks.decimal_mark, marks.decimal_mark_origin));
+  }
+  if (marks.thousands_mark != 0 || marks.thousands_mark_origin == Origin::Given) {
+    facts.add("thousands", mark_text(marks.thousands_mark, marks.thousands_mark_origin));
+  }
+  if (marks.missing_words_origin == Origin::Given) {
+    facts.add("missing", missing_text(marks));
+  }
+}
+
+/// The best first, each way to split the lines once.
+std::vector<Candidate const*> ranked(Evidence const& evidence) {
+  std::vector<Candidate const*> rest;
+  for (Candidate const& candidate : evidence.candidates) {
+    rest.push_back(&candidate);
+  }
+  std::ranges::stable_sort(rest, std::ranges::greater{}, [](Candidate const* const candidate) {
+    return candidate->coverage * candidate->soundness;
+  });
+  std::vector<Candidate const*> best;
+  if (evidence.winner) {
+    best.push_back(&evidence.candidates[*evidence.winner]);
+  }
+  if (evidence.runner_up) {
+    best.push_back(&evidence.candidates[evidence.runner_up->candidate]);
+  }
+  for (Candidate const* const candidate : rest) {
+    auto const same = [&](Candidate const* const other) {
+      return candidate_text(*other) == candidate_text(*candidate);
+    };
+    if (std::ranges::none_of(best, same)) {
+      best.push_back(candidate);
+    }
+  }
+  return best;
+}
+
+/// Whether the answer was weighed against others.
+bool is_weighed(Reason const reason) {
+  switch (reason) {
+    case Reason::OnlyReading:
+    case Reason::BestReading:
+    case Reason::NoTable:
+    case Reason::Unsure:
+      return true;
+    case Reason::NoRecords:
+    case Reason::Given:
+    case Reason::EngineDecided:
+    case Reason::ColumnsDiffer:
+    case Reason::LayoutNotFound:
+    case Reason::StartNotFound:
+      break;
+  }
+  return false;
+}
+
+}  // namespace
+
+std::string_view given_mark(Origin const origin) {
+  return origin == Origin::Given ? " (given)" : "";
+}
+
+void add_layout(FactLines& facts, Analysis const& analysis) {
+  Format const& format = analysis.format;
+  LayoutFormat const& layout = format.layout;
+  facts.add("layout", layout_text(analysis));
+  if (layout.layout == Layout::Delimited || layout.layout == Layout::SpaceAligned) {
+    facts.add("delimiter",
+              fmt::format("{}{}", reading_name(layout), given_mark(layout.delimiters_origin)));
+  } else if (layout.layout == Layout::FixedWidth) {
+    facts.add("widths",
+              fmt::format("{}{}", widths_text(layout.widths), given_mark(layout.widths_origin)));
+  }
+  add_quotes(facts, format.quoting);
+  add_comments(facts, format.comments);
+  add_marks(facts, format.marks);
+  if (std::string const rules = rules_text(layout); !rules.empty()) {
+    facts.add("rules", rules);
+  }
+}
+
+void add_confidence(FactLines& facts, Analysis const& analysis) {
+  if (is_weighed(analysis.reason)) {
+    double const certainty = analysis.certainty.layout;
+    facts.add("how sure", fmt::format("{}, {}", share_text(certainty), confidence_word(certainty)));
+  }
+}
+
+void add_candidates(FactLines& facts, Analysis const& analysis) {
+  constexpr std::size_t most = 6;
+  constexpr std::size_t indent = 9;
+  auto const candidates = ranked(analysis.evidence);
+  std::size_t const shown = std::min(candidates.size(), most);
+  if (analysis.decided || shown == 0) {
+    return;
+  }
+  facts.add("candidates", fmt::format("the best first{}", and_more(candidates.size() - shown)));
+  for (std::size_t i = 0; i < shown; ++i) {
+    Candidate const& candidate = *candidates[i];
+    std::string const sentence =
+        fmt::format("{}: {} of the records, soundness {:.2f}", candidate_text(candidate),
+                    share_text(candidate.coverage), candidate.soundness);
+    facts.text() += fmt::format("    {:>3}  ", i + 1) + wrapped(sentence, indent, facts.width());
+  }
+}
+
+}  // namespace textimport::reporting
