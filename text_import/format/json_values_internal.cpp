@@ -2,6 +2,8 @@
 
 #include "text_import/format/json_values_internal.hpp"
 
+#include <cmath>
+
 #include "text_import/format/format_json.hpp"
 #include "text_import/format/utf.hpp"
 
@@ -24,6 +26,12 @@ Json json_value(std::string const& bytes) {
 
 Json json_value(char16_t const character) {
   return character == 0 ? Json() : json_value(std::u16string(1, character));
+}
+
+Json json_value(double const number) {
+  constexpr double largest = 1e15;
+  constexpr double steps = 1e4;
+  return std::abs(number) < largest ? Json(std::round(number * steps) / steps) : Json();
 }
 
 std::string hexadecimal(std::string const& bytes) {

@@ -34,6 +34,10 @@ using Json = nlohmann::ordered_json;
   return number;
 }
 
+/// A share, a score, a measure: to four decimals. Null for what is no such number: NaN, and what
+/// stands for none by being infinite or beyond 1e15.
+[[nodiscard]] Json json_value(double number);
+
 /// Bytes in hexadecimal, two small digits each.
 [[nodiscard]] std::string hexadecimal(std::string const& bytes);
 

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include "text_import/report/engine_words.hpp"
+
 namespace textimport {
 namespace {
 
@@ -33,12 +35,13 @@ bool is_word(std::string_view const word) {
 template <class Enum>
 class words : public testing::Test {};
 
-using enumerations =
-    testing::Types<Origin, Layout, QuoteEscape, StartRule, EndRule, OddRowRule, ValueType,
-                   DateOrder, EpochUnit, LineRole, Reason, BrokenRule,
-                   textio::enums::ConsecutiveDelimitersRule, textio::enums::LeadingDelimitersRule,
-                   textio::enums::TrailingDelimitersRule, textio::enums::EmptyLineRule,
-                   textio::enums::PartialFieldRule>;
+using enumerations = testing::Types<
+    Origin, Layout, QuoteEscape, StartRule, EndRule, OddRowRule, ValueType, DateOrder, EpochUnit,
+    LineRole, Reason, BrokenRule, textio::enums::ConsecutiveDelimitersRule,
+    textio::enums::LeadingDelimitersRule, textio::enums::TrailingDelimitersRule,
+    textio::enums::EmptyLineRule, textio::enums::PartialFieldRule, textio::detection::CandidateFate,
+    textio::detection::RejectionClause, textio::detection::Outcome, textio::detection::Reason,
+    textio::detection::NotTried, textio::enums::StrategyMode, textio::enums::ColumnType>;
 TYPED_TEST_SUITE(words, enumerations);
 
 TYPED_TEST(words, name_every_value_once_and_lead_back_to_it) {
