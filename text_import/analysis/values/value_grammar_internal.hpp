@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "text_import/analysis/values/number_scan_internal.hpp"
+#include "text_import/analysis/values/text_internal.hpp"
 #include "text_import/analysis/values/value_shape_internal.hpp"
 #include "text_import/format/request.hpp"
 
@@ -44,6 +45,11 @@ class ValueGrammar {
   friend ValueLook look_at(std::u16string_view field, char16_t quote);
 
   [[nodiscard]] ValueLook look_at(std::u16string_view field, char16_t quote) const;
+
+  [[nodiscard]] std::u16string_view stripped(std::u16string_view const text) const noexcept {
+    return keeps_blanks_ ? text : trimmed(text);
+  }
+
   [[nodiscard]] std::u16string_view value_of(std::u16string_view field,
                                              char16_t quote) const noexcept;
   [[nodiscard]] ValueLook look_inside(std::u16string_view text, char16_t quote) const;

@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "text_import/analysis/values/text_internal.hpp"
+
 namespace textimport::analysis {
 
 enum class ValueShape : std::uint8_t {
@@ -46,9 +48,6 @@ struct ValueLook {
 /// Looks at one field, blanks and one pair of quotes taken off. `quote` 0: there are no quotes.
 /// Linear in the text.
 [[nodiscard]] ValueLook look_at(std::u16string_view field, char16_t quote);
-
-/// The field without blanks around it and one pair of quotes.
-[[nodiscard]] std::u16string_view unquoted(std::u16string_view field, char16_t quote) noexcept;
 
 /// True for the shapes that say more than text: numbers, dates, booleans ...
 [[nodiscard]] constexpr bool is_typed(ValueShape const shape) noexcept {
