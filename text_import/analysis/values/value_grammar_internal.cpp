@@ -129,7 +129,7 @@ ValueShape ValueGrammar::shape_by_pattern(view const text) const {
   return has_time ? ValueShape::DateTime : ValueShape::Empty;
 }
 
-ValueShape ValueGrammar::shape_of_no_number(view const text, char16_t const quote) const {
+ValueShape ValueGrammar::shape_of_no_number(view const text) const {
   bool const is_nan = grammar::is_nan(text);
   if (!missing_words_ && (is_nan || is_usual_missing_word(text))) {
     return ValueShape::Missing;
@@ -162,10 +162,10 @@ ValueShape ValueGrammar::shape_of_no_number(view const text, char16_t const quot
   if (embedded_numbers_ && std::ranges::any_of(text, textio::platform::is_digit)) {
     return ValueShape::Real;
   }
-  return shape_of_text(text, quote);
+  return shape_of_text(text, quote_);
 }
 
-ValueLook ValueGrammar::look_inside(view const text, char16_t const quote) const {
+ValueLook ValueGrammar::look_inside(view const text) const {
   ValueLook look;
   if (text.empty()) {
     return look;
@@ -185,14 +185,14 @@ ValueLook ValueGrammar::look_inside(view const text, char16_t const quote) const
     look.marks = number->marks;
     look.leading_zeros = number->is_integer && number->leading_zeros;
   } else {
-    look.shape = shape_of_no_number(text, quote);
+    look.shape = shape_of_no_number(text);
   }
   return look;
 }
 
-view ValueGrammar::value_of(view const field, char16_t const quote) const noexcept {
+view ValueGrammar::value_of(view const field) const noexcept {
   view text = stripped(field);
-  if (stands_in(text, quote)) {
+  if (stands_in(text, quote_)) {
     text = stripped(text.substr(1, text.size() - 2));
   }
   if (leading_character_ != 0 && text.starts_with(leading_character_)) {
@@ -201,11 +201,11 @@ view ValueGrammar::value_of(view const field, char16_t const quote) const noexce
   return text;
 }
 
-ValueLook ValueGrammar::look_at(view const field, char16_t const quote) const {
+ValueLook ValueGrammar::look_at(view const field) const {
   view const text = stripped(field);
-  bool const opens = quote != 0 && text.starts_with(quote);
-  ValueLook look = look_inside(value_of(text, quote), quote);
-  look.quoted = stands_in(text, quote);
+  bool const opens = quote_ != 0 && text.starts_with(quote_);
+  ValueLook look = look_inside(value_of(text));
+  look.quoted = stands_in(text, quote_);
   if (opens && !look.quoted) {
     look.shape = ValueShape::Broken;  // opened, and closed somewhere inside
   }
@@ -213,11 +213,6 @@ ValueLook ValueGrammar::look_at(view const field, char16_t const quote) const {
     look.shape = ValueShape::Phrase;  // that is what the quotes are for
   }
   return look;
-}
-
-ValueLook look_at(view const field, char16_t const quote) {
-  static ValueGrammar const usual(0, {});
-  return usual.look_at(field, quote);
 }
 
 }  // namespace textimport::analysis
