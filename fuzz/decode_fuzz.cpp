@@ -9,7 +9,7 @@
 #include "fuzz/input.hpp"
 #include "fuzz/properties.hpp"
 #include "tests/text_import/made_data.hpp"
-#include "text_import/source/compression/decompression_internal.hpp"
+#include "text_import/source/bytes/compression_marks_internal.hpp"
 
 namespace {
 

@@ -2,8 +2,10 @@
 # SPDX-License-Identifier: MIT
 """Checks how the source files hang together, by reading their includes and the CMake lists.
 
-- A file includes only files of its own folder and of folders below it in LAYERS.
-- No header includes itself over a detour.
+- A file includes only files of its own folder and of what FOLDERS allows that folder; folders are
+  phases, so this forbids what would run backwards. Of the engine's internal headers the other
+  folders include only SHARED_INTERNALS; nobody includes cli/ but tests and fuzz targets.
+- No module (x.hpp and x.cpp taken as one) includes itself over a detour.
 - Each header is either in its library's public list or named _internal.hpp, never both; a public
   header includes no internal one; each library's umbrella header includes all the others.
 - Each source and each test is in the list of its CMakeLists.txt, and each listed file exists.
@@ -16,30 +18,72 @@ import re
 import sys
 from pathlib import Path
 
-# From the bottom up. What stands in no layer (OUTSIDE) may include everything.
-LIBRARY = "text_format_detection"
-LAYERS = [
-    LIBRARY,  # only the files directly in the folder: export and version
-    f"{LIBRARY}/model",
-    f"{LIBRARY}/platform",
-    f"{LIBRARY}/reading",
-    f"{LIBRARY}/strategies",
-    f"{LIBRARY}/detection",
-    "text_import",
-    "cli",
+ENGINE = "text_format_detection"
+IMPORT = "text_import"
+ANALYSIS = f"{IMPORT}/analysis"
+SOURCE = f"{IMPORT}/source"
+
+# The engine's folders from the bottom up: each may include those before it.
+ENGINE_FOLDERS = ["model", "platform", "reading", "strategies", "detection"]
+
+# What an opened text and its parts are made of.
+UNDER_SOURCE = [
+    f"{IMPORT}/*",
+    f"{IMPORT}/format/",
+    f"{ENGINE}/*",
+    f"{ENGINE}/model/",
+    f"{ENGINE}/platform/text_stream.hpp",
+    f"{ENGINE}/platform/ascii_internal.hpp",
 ]
+UNDER_ANALYSIS = [f"{IMPORT}/*", f"{IMPORT}/format/", f"{ENGINE}/"]
+UNDER_READINGS = [*UNDER_ANALYSIS, f"{ANALYSIS}/lines/", f"{ANALYSIS}/values/"]
 
-# A strategy asks for its header lines. That header includes the standard library only, so no
+# By folder what its files may include beside itself: "folder/" with all below it, "folder/*" for
+# the files directly in it, or one file. A folder without a line of its own belongs to the one above
+# it; one that stands in none is a fault.
+FOLDERS = {
+    ENGINE: [],  # export and version
+    **{
+        f"{ENGINE}/{folder}": [f"{ENGINE}/*", *(f"{ENGINE}/{f}/" for f in ENGINE_FOLDERS[:position])]
+        for position, folder in enumerate(ENGINE_FOLDERS)
+    },
+    IMPORT: [],  # export and errors
+    f"{IMPORT}/format": [f"{IMPORT}/*", f"{ENGINE}/export.hpp", f"{ENGINE}/model/enums.hpp"],
+    f"{SOURCE}/bytes": UNDER_SOURCE,
+    f"{SOURCE}/encoding": [*UNDER_SOURCE, f"{SOURCE}/bytes/"],
+    f"{SOURCE}/compression": [*UNDER_SOURCE, f"{SOURCE}/bytes/", f"{SOURCE}/encoding/"],
+    SOURCE: [*UNDER_SOURCE, f"{SOURCE}/"],
+    f"{ANALYSIS}/lines": UNDER_ANALYSIS,
+    f"{ANALYSIS}/values": UNDER_ANALYSIS,
+    f"{ANALYSIS}/readings": UNDER_READINGS,
+    f"{ANALYSIS}/weighing": [*UNDER_READINGS, f"{ANALYSIS}/readings/"],
+    f"{ANALYSIS}/describing": [*UNDER_READINGS, f"{ANALYSIS}/readings/"],
+    f"{ANALYSIS}/checking": [*UNDER_READINGS, f"{ANALYSIS}/readings/"],
+    ANALYSIS: [*UNDER_ANALYSIS, f"{ANALYSIS}/"],
+    # From a Format to the engine's options is one step for the analysis and for whole files.
+    f"{IMPORT}/table": [*UNDER_READINGS, f"{ANALYSIS}/readings/reading_options.hpp", f"{SOURCE}/"],
+    f"{IMPORT}/report": [*UNDER_ANALYSIS, f"{ANALYSIS}/", f"{IMPORT}/table/"],
+    "cli": [f"{IMPORT}/", f"{ENGINE}/"],
+}
+
+# The strategies ask for their header lines. That header includes the standard library only, so no
 # cycle of files can come from it.
-EXCEPTION = (f"{LIBRARY}/strategies", f"{LIBRARY}/detection/header_lines.hpp")
+EXCEPTION = (f"{ENGINE}/strategies", f"{ENGINE}/detection/header_lines.hpp")
 
-# Generated into the build folder, and the one file above all layers of its library.
-GENERATED = {f"{LIBRARY}/version.hpp"}
-UMBRELLA = f"{LIBRARY}/{LIBRARY}.hpp"
+# The engine's internal headers that the import library is built with, and why.
+SHARED_INTERNALS = {
+    f"{ENGINE}/platform/ascii_internal.hpp": "what a digit is, without the locale",
+    f"{ENGINE}/strategies/value_grammar_internal.hpp": "one grammar of values for both policies",
+}
 
-PUBLIC_LISTS = {LIBRARY: "TFD_PUBLIC_HEADERS", "text_import": "TEXT_IMPORT_PUBLIC_HEADERS"}
-SOURCE_FOLDERS = [LIBRARY, "text_import", "cli"]
+# Generated into the build folder, and the one file above all folders of its library.
+GENERATED = {f"{ENGINE}/version.hpp"}
+UMBRELLA = f"{ENGINE}/{ENGINE}.hpp"
+
+PUBLIC_LISTS = {ENGINE: "TFD_PUBLIC_HEADERS", IMPORT: "TEXT_IMPORT_PUBLIC_HEADERS"}
+SOURCE_FOLDERS = [ENGINE, IMPORT, "cli"]
 OUTSIDE = ["tests", "examples", "benchmarks", "fuzz"]
+MAY_INCLUDE_CLI = ["cli", "tests", "fuzz"]
 
 INCLUDE = re.compile(r'^[ \t]*#[ \t]*include[ \t]*(["<])([^">]+)[">]', re.MULTILINE)
 
@@ -64,22 +108,29 @@ class Tree:
         return [name for _, name in self.includes[file] if name.split("/")[0] in SOURCE_FOLDERS]
 
 
-def layer_of(file):
-    """The position of the file's folder in LAYERS, or None for a file outside of them."""
+def folder_of(file):
+    """The folder in FOLDERS that the file belongs to, or None. Files directly in a library's root
+    are a folder of their own; the umbrella header stands with the uppermost one."""
     if file == UMBRELLA:
-        return LAYERS.index(f"{LIBRARY}/detection")
-    if file.count("/") == 1 and file.startswith(f"{LIBRARY}/"):
-        return 0
-    for position, folder in enumerate(LAYERS[1:], start=1):
-        if file.startswith(f"{folder}/"):
-            return position
-    return None
+        return f"{ENGINE}/{ENGINE_FOLDERS[-1]}"
+    folder = file.rpartition("/")[0]
+    if folder in (ENGINE, IMPORT):
+        return folder
+    while folder and folder not in FOLDERS:
+        folder = folder.rpartition("/")[0]
+    return None if folder in (ENGINE, IMPORT, "") else folder
+
+
+def matches(name, pattern):
+    if pattern.endswith("/*"):
+        return name.rpartition("/")[0] == pattern[:-2] and name != UMBRELLA
+    return name.startswith(pattern) if pattern.endswith("/") else name == pattern
 
 
 def check_includes(tree):
     for file in tree.includes:
-        if file.startswith(f"{LIBRARY}/") and layer_of(file) is None:
-            tree.fault(file, "lies in no known folder of the library")
+        if file.split("/")[0] in SOURCE_FOLDERS and folder_of(file) is None:
+            tree.fault(file, "lies in no known folder of its library")
         for quote, name in tree.includes[file]:
             first = name.split("/")[0]
             if quote == '"' and first not in [*SOURCE_FOLDERS, *OUTSIDE]:
@@ -91,39 +142,57 @@ def check_includes(tree):
 
 
 def check_order(tree, file, name):
-    own, other = layer_of(file), layer_of(name)
-    if own is None or other is None:
-        return
-    if other > own and (LAYERS[own], name) != EXCEPTION:
-        tree.fault(file, f"may not include {name}, which stands above it")
+    root, own = file.split("/")[0], folder_of(file)
+    if name.startswith("cli/") and root not in MAY_INCLUDE_CLI:
+        tree.fault(file, f"may not include {name}: nobody includes cli/")
+    elif own and folder_of(name) != own and (own, name) != EXCEPTION:
+        if not any(matches(name, pattern) for pattern in FOLDERS[own]):
+            tree.fault(file, f"may not include {name}: {own} stands beside it or below it")
+        elif is_foreign_internal(root, name):
+            tree.fault(file, f"may not include {name}, which is internal to the engine")
+
+
+def is_foreign_internal(root, name):
+    is_internal = name.startswith(f"{ENGINE}/") and name.endswith("_internal.hpp")
+    return root != ENGINE and is_internal and not (root == IMPORT and name in SHARED_INTERNALS)
 
 
 def check_exception(tree):
     header = EXCEPTION[1]
-    allowed = {f"{LIBRARY}/export.hpp"}
+    allowed = {f"{ENGINE}/export.hpp"}
     for name in tree.ours(header) if header in tree.includes else []:
         if name not in allowed:
             tree.fault(header, f"may include the standard library only, not {name}")
 
 
-def check_cycles(tree):
+def modules_of(tree):
+    """By module (a path without its suffix) the modules that it includes."""
+    modules = {}
+    for file in tree.includes:
+        if file.split("/")[0] in SOURCE_FOLDERS:
+            module = file.rpartition(".")[0]
+            others = {name.rpartition(".")[0] for name in tree.ours(file) if name in tree.includes}
+            modules.setdefault(module, set()).update(others - {module})
+    return modules
+
+
+def check_circles(tree):
+    modules = modules_of(tree)
     done, path = set(), []
 
-    def visit(file):
-        if file in path:
-            chain = " -> ".join([*path[path.index(file) :], file])
-            tree.fault(file, f"includes itself: {chain}")
-            return
-        if file in done or file not in tree.includes:
-            return
-        path.append(file)
-        for name in tree.ours(file):
-            visit(name)
-        path.pop()
-        done.add(file)
+    def visit(module):
+        if module in path:
+            circle = path[path.index(module) :]
+            tree.fault(min(circle), f"is in a circle of modules: {' -> '.join([*circle, module])}")
+        elif module not in done:
+            path.append(module)
+            for other in sorted(modules[module]):
+                visit(other)
+            path.pop()
+            done.add(module)
 
-    for file in tree.includes:
-        visit(file)
+    for module in sorted(modules):
+        visit(module)
 
 
 def listed_files(tree, folder):
@@ -178,7 +247,7 @@ def main(arguments):
     if not tree.includes:
         print(f"check_layers: no source files below {root}", file=sys.stderr)
         return 2
-    for check in [check_includes, check_exception, check_cycles, check_lists]:
+    for check in [check_includes, check_exception, check_circles, check_lists]:
         check(tree)
     for fault in sorted(set(tree.faults)):
         print(fault)

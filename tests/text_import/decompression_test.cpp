@@ -6,8 +6,8 @@
 
 #include "tests/text_import/made_data.hpp"
 #include "tests/text_import/tables.hpp"
+#include "text_import/source/bytes/compression_marks_internal.hpp"
 #include "text_import/source/compression/archive_library_internal.hpp"
-#include "text_import/source/compression/decompression_internal.hpp"
 
 namespace textimport {
 namespace {

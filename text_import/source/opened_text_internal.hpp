@@ -11,8 +11,10 @@
 #include <string_view>
 
 #include "text_import/import_error.hpp"
+#include "text_import/source/bytes/byte_source.hpp"
+#include "text_import/source/bytes/open_options.hpp"
 #include "text_import/source/encoding/decoder_internal.hpp"
-#include "text_import/source/text_source.hpp"
+#include "text_import/source/text_findings.hpp"
 
 namespace textimport {
 

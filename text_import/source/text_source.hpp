@@ -4,78 +4,18 @@
 // way from bytes to text.
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
 #include <memory>
 #include <string>
-#include <string_view>
-#include <vector>
 
 #include "text_format_detection/model/field.hpp"
 #include "text_format_detection/platform/text_stream.hpp"
 #include "text_import/export.hpp"
-#include "text_import/format/format.hpp"
 #include "text_import/format/text_sample.hpp"
 #include "text_import/source/bytes/byte_source.hpp"
-#include "text_import/source/encoding/encoding.hpp"
+#include "text_import/source/bytes/open_options.hpp"
+#include "text_import/source/text_findings.hpp"
 
 namespace textimport {
-
-/// How a text is opened.
-struct OpenOptions {
-  /// How many bytes of the decompressed data are looked at for the sample. At least 1.
-  std::size_t sample_bytes = std::size_t{1} << 20;
-  /// The encoding by any of its usual names; empty: it is found out.
-  std::string encoding;
-  /// The member of a zip archive that is read; empty: the only one.
-  std::string member;
-  /// Bytes without a meaning in the encoding are an error instead of being replaced.
-  bool strict = false;
-  /// How many bytes are asked of the file at a time. At least 1. Has no influence on the answer.
-  std::size_t block_bytes = std::size_t{1} << 16;
-  /// Decompressed data beyond their first 16 MiB may be at most this many times larger than the
-  /// compressed data read for them; 0: no limit.
-  std::uint64_t ratio_limit = 2000;
-  /// What ends a line, where the sample is cut. Empty: CR LF, LF and CR.
-  std::vector<std::u16string> line_endings;
-};
-
-/// What decoding had to replace by U+FFFD, so that no text is taken for something it is not.
-struct DecodingCounts {
-  /// Bytes without a meaning in the encoding.
-  std::uint64_t bad_bytes = 0;
-  /// Where the first of them stand, at most `max_bad_offsets`: byte offsets in the decompressed
-  /// data (a byte-order mark counts), one for each run of bytes that was replaced by one U+FFFD.
-  std::vector<std::uint64_t> first_bad_offsets;
-  /// Code units U+FFFF, which the library behind takes for the end of the text.
-  std::uint64_t replaced_end_marks = 0;
-
-  static constexpr std::size_t max_bad_offsets = 8;
-};
-
-/// What was found out about a text when it was opened.
-struct TextFindings {
-  EncodingFinding encoding;
-  /// "none", "gzip", "bzip2", "xz", "zstd", "lz4" or "zip".
-  std::string compression = "none";
-  /// The name of the archive's member as its bytes stand in the archive; empty without archive.
-  std::string member;
-  /// How many bytes of the (decompressed) data the head has: all, or OpenOptions::sample_bytes.
-  std::uint64_t bytes_read = 0;
-  /// True when the data go on behind the head, or would if they were not damaged.
-  bool goes_on = false;
-  /// True when the text goes on and no line ends in the head: the sample is a piece of one line.
-  bool no_line_end = false;
-  /// Counted in the sample.
-  LineEndingCounts line_endings;
-  /// NUL characters, counted in the sample.
-  std::uint64_t nuls = 0;
-  /// Counted in the head, which reaches behind the sample by part of a line.
-  DecodingCounts decoding;
-  /// Sentences, without the path, on what is wrong but did not prevent the answer: compressed data
-  /// that are damaged behind the text that they delivered, bytes behind the compressed data ...
-  std::vector<std::string> warnings;
-};
 
 class OpenedText;
 

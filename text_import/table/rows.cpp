@@ -8,6 +8,7 @@
 #include "text_format_detection/model/field_array.hpp"
 #include "text_format_detection/reading/read_records.hpp"
 #include "text_import/analysis/readings/reading_options.hpp"
+#include "text_import/analysis/values/text_internal.hpp"
 
 namespace textimport {
 
@@ -15,28 +16,11 @@ namespace {
 
 using view = std::u16string_view;
 
-view trimmed(view const text, view const blanks) {
-  auto const first = text.find_first_not_of(blanks);
-  return first == view::npos
-             ? view()
-             : text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
-
 /// A quoted value without its quotes, a doubled one inside standing for one.
-std::u16string unquoted(view value, char16_t const quote) {
-  bool const is_quoted =
-      quote != 0 && value.size() >= 2 && value.front() == quote && value.back() == quote;
-  if (!is_quoted) {
-    return std::u16string(value);
-  }
-  value = value.substr(1, value.size() - 2);
-  std::u16string plain;
-  for (std::size_t i = 0; i < value.size(); ++i) {
-    plain += value[i];
-    bool const is_doubled = value[i] == quote && i + 1 < value.size() && value[i + 1] == quote;
-    i += is_doubled ? 1 : 0;
-  }
-  return plain;
+std::u16string without_quotes(view const value, char16_t const quote) {
+  return analysis::stands_in(value, quote)
+             ? analysis::with_single_quotes(value.substr(1, value.size() - 2), quote)
+             : std::u16string(value);
 }
 
 /// A rule whose value Error is turned into the plain one.
@@ -62,8 +46,8 @@ std::vector<Row> read_rows(Format const& format, view const data, std::size_t co
   for (std::size_t record = 0; record < std::min(fields.num_records(), most); ++record) {
     Row& row = rows.emplace_back();
     for (textio::Field const& field : fields.record(record)) {
-      row.push_back(is_split ? unquoted(trimmed(field.view(), options.whitespace),
-                                        format.quoting.quote)
+      row.push_back(is_split ? without_quotes(analysis::trimmed(field.view(), options.whitespace),
+                                              format.quoting.quote)
                              : std::u16string(field.view()));
     }
   }

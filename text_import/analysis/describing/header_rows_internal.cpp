@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "text_format_detection/platform/ascii_internal.hpp"
+#include "text_import/analysis/values/text_internal.hpp"
 #include "text_import/analysis/values/value_shape_internal.hpp"
 
 namespace textimport::analysis {
@@ -154,7 +156,7 @@ bool counts_up(CellTable const& table, std::size_t const row) {
     if (is_short_integer) {
       number = 0;
       for (char16_t const c : cell.text) {
-        number = c >= u'0' && c <= u'9' ? *number * 10 + (c - u'0') : *number;
+        number = textio::platform::is_digit(c) ? *number * 10 + (c - u'0') : *number;
       }
     }
     if (last && number) {
@@ -170,8 +172,8 @@ bool counts_up(CellTable const& table, std::size_t const row) {
 
 /// A text that is no name: a value such as "12 km", an address, a sentence.
 bool is_like_data(view const text) {
-  char16_t const first = text.front();
-  return (first >= u'0' && first <= u'9') || text.size() > 40 || text.find(u"://") != view::npos;
+  return textio::platform::is_digit(text.front()) || text.size() > 40 ||
+         text.find(u"://") != view::npos;
 }
 
 /// What speaks for names in a row of a table without typed columns: no cell is empty, twice there,

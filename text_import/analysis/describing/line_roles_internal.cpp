@@ -7,6 +7,7 @@
 
 #include "text_format_detection/model/field_array.hpp"
 #include "text_format_detection/reading/read_records.hpp"
+#include "text_import/analysis/values/text_internal.hpp"
 #include "text_import/analysis/values/value_shape_internal.hpp"
 
 namespace textimport::analysis {
@@ -32,15 +33,9 @@ bool is_comment(view const line, textio::parser::options const& parsing) {
 
 /// The text of a field as a name: unquoted, and doubled quotes made single ones.
 std::u16string name_of_field(view const field, char16_t const quote) {
-  std::u16string name(unquoted(field, quote));
+  view const name = unquoted(field, quote);
   bool const was_quoted = quote != 0 && trimmed(field).starts_with(quote);
-  if (was_quoted) {
-    std::u16string const doubled(2, quote);
-    for (std::size_t pos = name.find(doubled); pos != view::npos; pos = name.find(doubled, pos)) {
-      name.erase(++pos, 1);
-    }
-  }
-  return name;
+  return was_quoted ? with_single_quotes(name, quote) : std::u16string(name);
 }
 
 /// The line without a comment marker in front of it, of whatever kind.
@@ -63,8 +58,9 @@ std::vector<std::u16string> split_line(Reading const& r, view const line) {
 }
 
 bool are_names(std::vector<std::u16string> const& cells) {
-  return std::ranges::all_of(cells, [](std::u16string const& cell) {
-    ValueShape const shape = look_at(cell, 0).shape;
+  ValueGrammar const usual(0, {});  // quotes are taken off, and nobody says how names are written
+  return std::ranges::all_of(cells, [&usual](std::u16string const& cell) {
+    ValueShape const shape = usual.look_at(cell).shape;
     return shape == ValueShape::Word || shape == ValueShape::Phrase;
   });
 }

@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <array>
 
+#include "text_import/analysis/values/text_internal.hpp"
+
 namespace textimport::analysis {
 
 namespace {
@@ -68,10 +70,10 @@ DataEnd derive_end(Region const& region, LineIndex const& lines, bool const goes
   std::size_t const footer =
       find_line(lines, found, [](view const line) { return !is_blank(line); });
   auto const footer_text = footer < lines.count() ? beginning_of(lines[footer]) : view();
-  std::array const rules{
-      DataEnd{EndRule::EndOfText, 0, {}, end.origin}, DataEnd{EndRule::BlankLine, 0, {}, end.origin},
-      DataEnd{EndRule::LineLike, 0, std::u16string(footer_text), end.origin},
-      DataEnd{EndRule::LinesBeforeEnd, lines.count() - found, {}, end.origin}};
+  std::array const rules{DataEnd{EndRule::EndOfText, 0, {}, end.origin},
+                         DataEnd{EndRule::BlankLine, 0, {}, end.origin},
+                         DataEnd{EndRule::LineLike, 0, std::u16string(footer_text), end.origin},
+                         DataEnd{EndRule::LinesBeforeEnd, lines.count() - found, {}, end.origin}};
   for (DataEnd const& rule : rules) {
     bool const says_nothing = rule.rule == EndRule::LineLike && rule.line.empty();
     if (!says_nothing && find_end(rule, lines, region.first_line, goes_on) == found) {

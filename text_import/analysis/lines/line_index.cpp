@@ -71,25 +71,3 @@ Position LineIndex::position_of(std::size_t const offset) const noexcept {
 }
 
 }  // namespace textimport
-
-namespace textimport::analysis {
-
-namespace {
-
-constexpr bool is_blank(char16_t const c) noexcept {
-  return c == u' ' || c == u'\t';
-}
-
-}  // namespace
-
-std::u16string_view trimmed(std::u16string_view text) noexcept {
-  while (!text.empty() && is_blank(text.front())) {
-    text.remove_prefix(1);
-  }
-  while (!text.empty() && is_blank(text.back())) {
-    text.remove_suffix(1);
-  }
-  return text;
-}
-
-}  // namespace textimport::analysis

@@ -67,10 +67,3 @@ class TEXT_IMPORT_API LineIndex {
 };
 
 }  // namespace textimport
-
-namespace textimport::analysis {
-
-/// The text without blanks (spaces and tabs) at both ends.
-[[nodiscard]] std::u16string_view trimmed(std::u16string_view text) noexcept;
-
-}  // namespace textimport::analysis

@@ -10,6 +10,7 @@
 #include "text_format_detection/detection/strategy_selector.hpp"
 #include "text_format_detection/strategies/layout_strategies.hpp"
 #include "text_import/analysis/readings/unguessed_delimiters_internal.hpp"
+#include "text_import/analysis/readings/usual_delimiters_internal.hpp"
 
 namespace textimport::analysis {
 
@@ -115,10 +116,7 @@ class ReadingCollector {
   /// Whether a usual delimiter explains nearly all of the text.
   [[nodiscard]] bool is_explained() const {
     return std::ranges::any_of(found_.readings, [](Reading const& r) {
-      constexpr std::u16string_view usual = u",\t;|";
-      bool const is_usual =
-          r.delimiter.size() == 1 && usual.find(r.delimiter.front()) != std::u16string_view::npos;
-      return is_usual && r.coverage >= 0.9 && r.block.columns >= 3;
+      return is_common(r.delimiter) && r.coverage >= 0.9 && r.block.columns >= 3;
     });
   }
 

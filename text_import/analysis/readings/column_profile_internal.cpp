@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "text_format_detection/platform/ascii_internal.hpp"
+
 namespace textimport::analysis {
 
 namespace {
@@ -25,8 +27,10 @@ constexpr std::size_t find_kind(char16_t const c) {
   if (std::size_t const kind = kinds.find(c); kind != view::npos) {
     return kind;
   }
-  bool const is_letter = (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z');
-  return c >= u'0' && c <= u'9' ? digit_kind : is_letter ? letter_kind : other_kind;
+  if (textio::platform::is_digit(c)) {
+    return digit_kind;
+  }
+  return textio::platform::is_letter(c) ? letter_kind : other_kind;
 }
 
 constexpr std::array<std::uint8_t, 128> ascii_kinds = [] {
@@ -65,7 +69,7 @@ double share_of_usual(std::vector<std::size_t> const& lengths) {
 }  // namespace
 
 ColumnProfile::ColumnProfile(LineIndex const& lines, std::size_t const first,
-                               std::size_t const end) {
+                             std::size_t const end) {
   std::vector<view> filled;
   std::vector<std::size_t> lengths;
   std::vector<std::size_t> padded_lengths;
@@ -95,7 +99,7 @@ ColumnProfile::ColumnProfile(LineIndex const& lines, std::size_t const first,
 }
 
 double ColumnProfile::agreement_between(std::size_t const first,
-                                         std::size_t const end) const noexcept {
+                                        std::size_t const end) const noexcept {
   KindCounts all{};
   double agreed = 0;
   double total = 0;

@@ -6,6 +6,8 @@
 #include <cstddef>
 #include <optional>
 
+#include "text_import/analysis/values/text_internal.hpp"
+
 namespace textimport::analysis {
 
 namespace {

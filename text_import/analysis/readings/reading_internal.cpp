@@ -6,6 +6,7 @@
 
 #include "text_import/analysis/readings/hypothesis_internal.hpp"
 #include "text_import/analysis/readings/reading_options.hpp"
+#include "text_import/analysis/values/text_internal.hpp"
 #include "text_import/analysis/values/value_shape_internal.hpp"
 
 namespace textimport::analysis {

@@ -5,6 +5,10 @@
 #include <map>
 #include <set>
 
+#include "text_format_detection/platform/ascii_internal.hpp"
+#include "text_import/analysis/readings/usual_delimiters_internal.hpp"
+#include "text_import/analysis/values/text_internal.hpp"
+
 namespace textimport::analysis {
 
 namespace {
@@ -22,7 +26,7 @@ bool was_sampled(textio::detection::DetectionReport const& report, char16_t cons
 }
 
 constexpr bool is_letter_or_digit(char16_t const c) {
-  return (c >= u'0' && c <= u'9') || (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z');
+  return textio::platform::is_digit(c) || textio::platform::is_letter(c);
 }
 
 /// How often each character of a set stands in the line.
@@ -101,7 +105,7 @@ std::u16string doubled_signs(LineIndex const& lines, view const signs) {
 std::vector<std::u16string> unguessed_delimiters(LineIndex const& lines,
                                                  textio::detection::DetectionReport const& report) {
   std::vector<std::u16string> delimiters;
-  for (char16_t const c : view(u",\t;|")) {
+  for (char16_t const c : common_delimiters) {
     if (!was_sampled(report, c) && lines.hold(c)) {
       delimiters.emplace_back(1, c);
     }

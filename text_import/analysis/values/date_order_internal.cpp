@@ -5,13 +5,13 @@
 #include <array>
 #include <cstddef>
 
+#include "text_format_detection/platform/ascii_internal.hpp"
+
 namespace textimport::analysis {
 
 namespace {
 
-constexpr bool is_digit(char16_t const c) noexcept {
-  return c >= u'0' && c <= u'9';
-}
+using textio::platform::is_digit;
 
 struct NumberRun {
   std::size_t digits = 0;

@@ -24,9 +24,7 @@ class NumberScan {
 
   std::optional<ScannedNumber> run() noexcept {
     if (!is_digit(rest_.front())) {
-      drop_one_of(u"+-\u2212");
-      drop_one_of(u"$\u20AC\u00A3\u00A5");
-      drop_one_of(u"+-");
+      drop_sign_and_currency();
     }
     bool const has_digits = take_groups();
     if (!has_digits || !read_marks()) {
@@ -43,9 +41,18 @@ class NumberScan {
  private:
   static constexpr std::size_t max_groups = 12;
 
-  void drop_one_of(view const set) noexcept {
-    if (!rest_.empty() && is_one_of(rest_.front(), set)) {
-      rest_.remove_prefix(1);
+  bool drop_one_of(view const set) noexcept {
+    bool const drops = !rest_.empty() && is_one_of(rest_.front(), set);
+    rest_.remove_prefix(drops ? 1 : 0);
+    return drops;
+  }
+
+  /// One sign, in front of the currency or behind it.
+  void drop_sign_and_currency() noexcept {
+    constexpr view signs = u"+-\u2212";
+    bool const has_sign = drop_one_of(signs);
+    if (drop_one_of(u"$\u20AC\u00A3\u00A5") && !has_sign) {
+      drop_one_of(signs);
     }
   }
 
@@ -147,7 +154,7 @@ class NumberScan {
 }  // namespace
 
 std::optional<ScannedNumber> scan_number(view const text, NumberRules const& rules) noexcept {
-  if (text.empty() || text.front() > 0x20AC || (text.front() >= u'A' && text.front() <= u'z')) {
+  if (text.empty() || text.front() > 0x2212 || (text.front() >= u'A' && text.front() <= u'z')) {
     return std::nullopt;  // most values that are no numbers
   }
   return NumberScan(text, rules).run();

@@ -10,8 +10,8 @@
 #include "text_format_detection/platform/ascii_internal.hpp"
 #include "text_format_detection/platform/datetime.hpp"
 #include "text_format_detection/strategies/value_grammar_internal.hpp"
-#include "text_import/analysis/lines/line_index.hpp"
 #include "text_import/analysis/values/lenient_values_internal.hpp"
+#include "text_import/analysis/values/text_internal.hpp"
 #include "text_import/analysis/values/text_shape_internal.hpp"
 #include "text_import/analysis/values/value_words_internal.hpp"
 
@@ -70,17 +70,40 @@ bool may_be_date(view const text) noexcept {
          text.find_first_of(u"-/. :T") != view::npos;
 }
 
+/// Where the last number of the text begins that has a sign; 0 when none but the first may have
+/// one.
+std::size_t last_signed(view const text, view const exponent_characters) noexcept {
+  auto const sign_before = [text](std::size_t const end) {
+    std::size_t const sign = text.substr(0, end).find_last_of(u"+-");
+    return sign == view::npos ? 0 : sign;
+  };
+  std::size_t const sign = sign_before(text.size());
+  bool const is_of_exponent = sign > 0 && exponent_characters.find(text[sign - 1]) != view::npos;
+  return is_of_exponent ? sign_before(sign) : sign;
+}
+
 /// A real and an imaginary part, or the latter alone.
 bool is_complex(view text, NumberRules const& rules) noexcept {
   if (text.size() < 2 || !grammar::is_imaginary_unit(text.substr(text.size() - 1))) {
     return false;
   }
   text.remove_suffix(1);
-  std::size_t const sign = text.find_last_of(u"+-");
-  if (sign == view::npos || sign == 0) {
-    return scan_number(text, rules).has_value();
+  std::size_t const imaginary = last_signed(text, rules.exponent_characters);
+  return scan_number(text.substr(imaginary), rules) &&
+         (imaginary == 0 || scan_number(text.substr(0, imaginary), rules));
+}
+
+/// Empty for what is no date in any of the usual forms.
+ValueShape shape_of_usual_date(view const text) {
+  if (!may_be_date(text)) {
+    return ValueShape::Empty;
   }
-  return scan_number(text.substr(0, sign), rules) && scan_number(text.substr(sign), rules);
+  auto const is_date = [](view const part) { return is_datetime(part, {}); };
+  bool const has_time = text.find(u':') != view::npos;
+  if (is_date(text) || (has_time && grammar::is_time_beside_date<LenientValues>(text, is_date))) {
+    return has_time ? ValueShape::DateTime : ValueShape::Date;
+  }
+  return ValueShape::Empty;
 }
 
 }  // namespace
@@ -106,11 +129,12 @@ ValueShape ValueGrammar::shape_by_pattern(view const text) const {
   return has_time ? ValueShape::DateTime : ValueShape::Empty;
 }
 
-ValueShape ValueGrammar::shape_of_no_number(view const text, char16_t const quote) const {
-  if (!missing_words_ && is_usual_missing_word(text)) {
+ValueShape ValueGrammar::shape_of_no_number(view const text) const {
+  bool const is_nan = grammar::is_nan(text);
+  if (!missing_words_ && (is_nan || is_usual_missing_word(text))) {
     return ValueShape::Missing;
   }
-  if (grammar::is_infinity<LenientValues>(text) || (missing_words_ && grammar::is_nan(text))) {
+  if (is_nan || grammar::is_infinity<LenientValues>(text)) {
     return ValueShape::Real;
   }
   if (is_boolean_word(text)) {
@@ -130,16 +154,18 @@ ValueShape ValueGrammar::shape_of_no_number(view const text, char16_t const quot
   if (is_complex(text, numbers_)) {
     return ValueShape::ComplexNumber;
   }
-  if (date_pattern_.empty() && may_be_date(text) && is_datetime(text, date_pattern_)) {
-    return text.find(u':') == view::npos ? ValueShape::Date : ValueShape::DateTime;
+  if (date_pattern_.empty()) {
+    if (ValueShape const date = shape_of_usual_date(text); date != ValueShape::Empty) {
+      return date;
+    }
   }
   if (embedded_numbers_ && std::ranges::any_of(text, textio::platform::is_digit)) {
     return ValueShape::Real;
   }
-  return shape_of_text(text, quote);
+  return shape_of_text(text, quote_);
 }
 
-ValueLook ValueGrammar::look_inside(view const text, char16_t const quote) const {
+ValueLook ValueGrammar::look_inside(view const text) const {
   ValueLook look;
   if (text.empty()) {
     return look;
@@ -159,28 +185,27 @@ ValueLook ValueGrammar::look_inside(view const text, char16_t const quote) const
     look.marks = number->marks;
     look.leading_zeros = number->is_integer && number->leading_zeros;
   } else {
-    look.shape = shape_of_no_number(text, quote);
+    look.shape = shape_of_no_number(text);
   }
   return look;
 }
 
-view ValueGrammar::value_of(view const field, char16_t const quote) const noexcept {
-  auto const strip = [this](view const text) { return keeps_blanks_ ? text : trimmed(text); };
-  view text = strip(field);
-  if (quote != 0 && text.size() >= 2 && text.front() == quote && text.back() == quote) {
-    text = strip(text.substr(1, text.size() - 2));
+view ValueGrammar::value_of(view const field) const noexcept {
+  view text = stripped(field);
+  if (stands_in(text, quote_)) {
+    text = stripped(text.substr(1, text.size() - 2));
   }
   if (leading_character_ != 0 && text.starts_with(leading_character_)) {
-    text = strip(text.substr(1));
+    text = stripped(text.substr(1));
   }
   return text;
 }
 
-ValueLook ValueGrammar::look_at(view const field, char16_t const quote) const {
-  view const text = keeps_blanks_ ? field : trimmed(field);
-  bool const opens = quote != 0 && text.starts_with(quote);
-  ValueLook look = look_inside(value_of(text, quote), quote);
-  look.quoted = opens && text.size() >= 2 && text.back() == quote;
+ValueLook ValueGrammar::look_at(view const field) const {
+  view const text = stripped(field);
+  bool const opens = quote_ != 0 && text.starts_with(quote_);
+  ValueLook look = look_inside(value_of(text));
+  look.quoted = stands_in(text, quote_);
   if (opens && !look.quoted) {
     look.shape = ValueShape::Broken;  // opened, and closed somewhere inside
   }
@@ -188,18 +213,6 @@ ValueLook ValueGrammar::look_at(view const field, char16_t const quote) const {
     look.shape = ValueShape::Phrase;  // that is what the quotes are for
   }
   return look;
-}
-
-view unquoted(view const field, char16_t const quote) noexcept {
-  view const text = trimmed(field);
-  bool const is_quoted =
-      quote != 0 && text.size() >= 2 && text.front() == quote && text.back() == quote;
-  return is_quoted ? trimmed(text.substr(1, text.size() - 2)) : text;
-}
-
-ValueLook look_at(view const field, char16_t const quote) {
-  static ValueGrammar const usual(0, {});
-  return usual.look_at(field, quote);
 }
 
 }  // namespace textimport::analysis

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "text_import/analysis/values/number_scan_internal.hpp"
+#include "text_import/analysis/values/text_internal.hpp"
 #include "text_import/analysis/values/value_shape_internal.hpp"
 #include "text_import/format/request.hpp"
 
@@ -30,24 +31,19 @@ class ValueGrammar {
   ValueGrammar(char16_t quote, ValueRequest const& request);
 
   /// Looks at one field. Linear in the text.
-  [[nodiscard]] ValueLook look_at(std::u16string_view field) const {
-    return look_at(field, quote_);
-  }
+  [[nodiscard]] ValueLook look_at(std::u16string_view field) const;
 
   /// What is looked at: the field without blanks around it, one pair of quotes and the leading
   /// character. A view into the field.
-  [[nodiscard]] std::u16string_view value_of(std::u16string_view field) const noexcept {
-    return value_of(field, quote_);
-  }
+  [[nodiscard]] std::u16string_view value_of(std::u16string_view field) const noexcept;
 
  private:
-  friend ValueLook look_at(std::u16string_view field, char16_t quote);
+  [[nodiscard]] std::u16string_view stripped(std::u16string_view const text) const noexcept {
+    return keeps_blanks_ ? text : trimmed(text);
+  }
 
-  [[nodiscard]] ValueLook look_at(std::u16string_view field, char16_t quote) const;
-  [[nodiscard]] std::u16string_view value_of(std::u16string_view field,
-                                             char16_t quote) const noexcept;
-  [[nodiscard]] ValueLook look_inside(std::u16string_view text, char16_t quote) const;
-  [[nodiscard]] ValueShape shape_of_no_number(std::u16string_view text, char16_t quote) const;
+  [[nodiscard]] ValueLook look_inside(std::u16string_view text) const;
+  [[nodiscard]] ValueShape shape_of_no_number(std::u16string_view text) const;
   [[nodiscard]] ValueShape shape_by_pattern(std::u16string_view text) const;
 
   char16_t quote_;

@@ -5,7 +5,6 @@
 #pragma once
 
 #include <cstdint>
-#include <string_view>
 
 namespace textimport::analysis {
 
@@ -42,13 +41,6 @@ struct ValueLook {
   bool quoted = false;         ///< stood in quotes, which were taken off
   bool leading_zeros = false;  ///< an integer with zeros in front: a code rather than a number
 };
-
-/// Looks at one field, blanks and one pair of quotes taken off. `quote` 0: there are no quotes.
-/// Linear in the text.
-[[nodiscard]] ValueLook look_at(std::u16string_view field, char16_t quote);
-
-/// The field without blanks around it and one pair of quotes.
-[[nodiscard]] std::u16string_view unquoted(std::u16string_view field, char16_t quote) noexcept;
 
 /// True for the shapes that say more than text: numbers, dates, booleans ...
 [[nodiscard]] constexpr bool is_typed(ValueShape const shape) noexcept {

@@ -21,10 +21,11 @@ template <std::size_t n>
   });
 }
 
+/// NaN is none of them, but a number that may be missing.
 [[nodiscard]] inline bool is_usual_missing_word(std::u16string_view const text) noexcept {
-  static constexpr std::array<std::u16string_view, 14> words{
-      u"na",  u"n/a", u"null", u"nil", u"none", u"nan", u"#n/a",
-      u"\\n", u"-",   u"--",   u"?",   u".",    u"*",   u"missing"};
+  static constexpr std::array<std::u16string_view, 13> words{
+      u"na", u"n/a", u"null", u"nil", u"none", u"#n/a",   u"\\n",
+      u"-",  u"--",  u"?",    u".",   u"*",    u"missing"};
   return text.size() <= 7 && is_one_of(text, words);
 }
 

@@ -12,7 +12,8 @@
 #include <vector>
 
 #include "text_import/import_error.hpp"
-#include "text_import/source/text_source.hpp"
+#include "text_import/source/bytes/byte_source.hpp"
+#include "text_import/source/bytes/open_options.hpp"
 
 namespace textimport {
 

@@ -1,19 +1,16 @@
 // SPDX-License-Identifier: MIT
 //
-// Compressed data are recognised by their first bytes, never by a name, and unpacked by one level.
+// Compressed data are recognised and unpacked by one level.
 #pragma once
 
 #include <memory>
 #include <string>
-#include <string_view>
 #include <vector>
 
-#include "text_import/source/text_source.hpp"
+#include "text_import/source/bytes/byte_source.hpp"
+#include "text_import/source/bytes/open_options.hpp"
 
 namespace textimport {
-
-/// "gzip", "bzip2", "xz", "zstd", "lz4", "zip", or "none" for bytes that begin with none of them.
-std::string_view compression_of(std::string_view head);
 
 /// A source of decompressed bytes, and what was found out by opening it.
 struct DecompressedBytes {

@@ -6,7 +6,7 @@
 #include <numeric>
 
 #include "text_import/import_error.hpp"
-#include "text_import/source/compression/decompression_internal.hpp"
+#include "text_import/source/bytes/compression_marks_internal.hpp"
 #include "text_import/source/encoding/unit_count_internal.hpp"
 
 namespace textimport {

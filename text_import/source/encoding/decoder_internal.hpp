@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "text_import/source/text_source.hpp"
+#include "text_import/source/encoding/decoding_counts.hpp"
 
 namespace textimport {
 

@@ -13,6 +13,7 @@
 
 #include <unicode/ucnv.h>
 
+#include "text_format_detection/platform/ascii_internal.hpp"
 #include "text_import/format/edit_distance.hpp"
 
 namespace textimport {
@@ -20,18 +21,13 @@ namespace {
 
 constexpr std::size_t max_near_names = 5;
 
-bool is_digit(char const c) {
-  return c >= '0' && c <= '9';
-}
-
 /// Letters in lower case and digits; the rest is dropped.
 std::string normalized(std::string_view const name) {
   std::string result;
   for (char const c : name) {
-    if (c >= 'A' && c <= 'Z') {
-      result.push_back(static_cast<char>(c - 'A' + 'a'));
-    } else if (is_digit(c) || (c >= 'a' && c <= 'z')) {
-      result.push_back(c);
+    char16_t const unit = textio::platform::to_lower(static_cast<unsigned char>(c));
+    if (textio::platform::is_digit(unit) || textio::platform::is_letter(unit)) {
+      result.push_back(static_cast<char>(unit));
     }
   }
   return result;
@@ -39,7 +35,9 @@ std::string normalized(std::string_view const name) {
 
 std::string digits_of(std::string_view const name) {
   std::string result;
-  std::copy_if(name.begin(), name.end(), std::back_inserter(result), is_digit);
+  std::copy_if(name.begin(), name.end(), std::back_inserter(result), [](char const c) {
+    return textio::platform::is_digit(static_cast<unsigned char>(c));
+  });
   return result;
 }
 

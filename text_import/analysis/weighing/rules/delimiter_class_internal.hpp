@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "text_import/analysis/readings/reading_internal.hpp"
+#include "text_import/analysis/readings/usual_delimiters_internal.hpp"
 
 namespace textimport::analysis {
 
@@ -24,9 +25,10 @@ enum class DelimiterClass : std::uint8_t {
   if (r.layout == Layout::SpaceAligned || r.delimiter == u" ") {
     return DelimiterClass::Blank;
   }
-  constexpr std::u16string_view usual = u",\t;|\x01\x1C\x1D\x1E\x1F";
+  constexpr std::u16string_view made_for_it = u"\x01\x1C\x1D\x1E\x1F";
+  std::u16string_view const first = std::u16string_view(r.delimiter).substr(0, 1);
   bool const is_usual =
-      !r.delimiter.empty() && usual.find(r.delimiter.front()) != std::u16string_view::npos;
+      is_common(first) || (!first.empty() && made_for_it.find(first) != std::u16string_view::npos);
   return is_usual ? DelimiterClass::Usual : DelimiterClass::Rare;
 }
 

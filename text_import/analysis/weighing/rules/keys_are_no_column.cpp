@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <span>
 
+#include "text_import/analysis/values/text_internal.hpp"
 #include "text_import/analysis/weighing/rules/delimiter_class_internal.hpp"
 #include "text_import/analysis/weighing/rules/weighing_rule_internal.hpp"
 

@@ -4,15 +4,14 @@
 // first column ends in a time and whose second begins with its three digits is of such lines.
 #include <algorithm>
 
+#include "text_format_detection/platform/ascii_internal.hpp"
 #include "text_import/analysis/weighing/rules/weighing_rule_internal.hpp"
 
 namespace textimport::analysis {
 
 namespace {
 
-bool is_digit(char16_t const c) {
-  return c >= u'0' && c <= u'9';
-}
+using textio::platform::is_digit;
 
 /// "...:01" in front of "250 INFO".
 bool splits_seconds(std::u16string_view const first, std::u16string_view const second) {

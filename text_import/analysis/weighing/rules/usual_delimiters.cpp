@@ -4,6 +4,7 @@
 // hypothesis that assumes less, which comes first.
 #include <algorithm>
 
+#include "text_import/analysis/readings/usual_delimiters_internal.hpp"
 #include "text_import/analysis/weighing/rules/weighing_rule_internal.hpp"
 
 namespace textimport::analysis {
@@ -12,13 +13,11 @@ namespace {
 
 /// Smaller is more usual.
 double rank(Reading const& r) {
-  constexpr std::u16string_view order = u",\t;|";
   if (r.layout == Layout::Delimited) {
-    auto const place =
-        r.delimiter.size() == 1 ? order.find(r.delimiter.front()) : std::u16string_view::npos;
-    return place != std::u16string_view::npos ? static_cast<double>(place)
-           : r.delimiter == u" "              ? 5
-                                              : 6;
+    if (is_common(r.delimiter)) {
+      return static_cast<double>(common_delimiters.find(r.delimiter));
+    }
+    return r.delimiter == u" " ? 5 : 6;
   }
   return r.layout == Layout::SpaceAligned ? 4 : 7;
 }
