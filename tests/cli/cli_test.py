@@ -2,9 +2,9 @@
 # SPDX-License-Identifier: MIT
 """Drives the built program text-format: what transcripts and documents show is what happens.
 
-Usage: cli_test.py PROGRAM EXAMPLE_PROGRAM [--update] [TEST...]
-PROGRAM is text-format, EXAMPLE_PROGRAM the built examples/pick_strategy.cpp. --update writes the
-transcripts anew, to be reviewed by eye. Exit code 2 when a program is missing.
+Usage: cli_test.py PROGRAM PICK_STRATEGY OPEN_AND_PRINT [--update] [TEST...]
+PROGRAM is text-format, the others are built from examples/. --update writes the transcripts anew,
+to be reviewed by eye. Exit code 2 when a program is missing.
 
 A transcript is a list of commands for bash, each behind "$ " and followed by what it prints: lines
 for standard output, lines behind "2> " for standard error, and the exit code in brackets if it is
@@ -14,6 +14,7 @@ source tree. They may use
   members [NAME...]   see members.py
   rows                the rows that detect shows, without what stands above them
   terminal COMMAND    runs it on a terminal, where control characters show as ^[
+  open_and_print FILE runs the example of that name
 """
 
 import json
@@ -27,7 +28,7 @@ from pathlib import Path
 
 HERE = Path(__file__).resolve().parent
 ROOT = HERE.parents[1]
-PROGRAM = EXAMPLE = None
+PROGRAM = PICK_STRATEGY = OPEN_AND_PRINT = None
 UPDATE = False
 
 # A command with its further lines; its output; the comments and empty lines in front of the next.
@@ -44,7 +45,7 @@ terminal() {{ script -qec "$1" /dev/null < /dev/null | tr -d '\\r' | cat -v; }}
 
 def run(command, folder):
     """What is seen when bash runs the command in the folder: its output, and what else it did."""
-    environment = {k: v for k, v in os.environ.items() if k not in ("NO_COLOR", "TERM")}
+    environment = {k: v for k, v in os.environ.items() if k not in ("NO_COLOR", "TERM", "COLUMNS")}
     environment.update(LC_ALL="C.UTF-8", PATH=f"{folder}/bin:{environment['PATH']}", HOME=folder)
     done = subprocess.run(["bash", "-c", COMMANDS + command], capture_output=True, cwd=folder,
                           env=environment, stdin=subprocess.DEVNULL, timeout=60, check=False)
@@ -67,6 +68,7 @@ class Case(unittest.TestCase):
         self.folder = folder.name
         os.mkdir(f"{self.folder}/bin")
         os.symlink(PROGRAM, f"{self.folder}/bin/text-format")
+        os.symlink(OPEN_AND_PRINT, f"{self.folder}/bin/open_and_print")
         os.symlink(ROOT / "examples", f"{self.folder}/examples")
 
     def output(self, command):
@@ -138,7 +140,7 @@ class Documents(Case):
         known = {option["name"] for option in self.options()}
         self.assertEqual(set(re.findall(r"--[a-z0-9][a-z0-9-]*", text)), known)
         self.assertTrue(all(len(line) <= 80 for line in text.splitlines()))
-        for other in ["-h", "explain --help", "--help missing"]:
+        for other in ["-h", "explain --help", "--help missing", "help", "help detect"]:
             self.assertEqual(self.output(f"text-format {other}"), text)
 
     def test_completions_know_every_option(self):
@@ -177,18 +179,19 @@ class Documents(Case):
         self.assertTrue(licence.startswith("// SPDX"))
         self.assertEqual(self.blocks("README.md", "cpp"), [program])
         text = (ROOT / "README.md").read_text(encoding="utf-8")
-        self.assertIn(f"It prints `{self.output(EXAMPLE)}`", text)
+        self.assertIn(f"It prints `{self.output(PICK_STRATEGY)}`", text)
 
 
 def main(arguments):
-    global PROGRAM, EXAMPLE, UPDATE
+    global PROGRAM, PICK_STRATEGY, OPEN_AND_PRINT, UPDATE
     UPDATE = "--update" in arguments
     arguments = [a for a in arguments if a != "--update"]
-    if len(arguments) < 2 or not all(os.access(path, os.X_OK) for path in arguments[:2]):
-        print(f"cli_test.py: no such program: {arguments[:2]}", file=sys.stderr)
+    programs, tests = arguments[:3], arguments[3:]
+    if len(programs) < 3 or not all(os.access(path, os.X_OK) for path in programs):
+        print(f"cli_test.py: no such program: {programs}", file=sys.stderr)
         return 2
-    PROGRAM, EXAMPLE = (os.path.abspath(path) for path in arguments[:2])
-    result = unittest.main(argv=[__file__, *arguments[2:]], exit=False).result
+    PROGRAM, PICK_STRATEGY, OPEN_AND_PRINT = map(os.path.abspath, programs)
+    result = unittest.main(argv=[__file__, *tests], exit=False).result
     return 0 if result.wasSuccessful() and result.testsRun > 0 else 1
 
 

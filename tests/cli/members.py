@@ -3,7 +3,9 @@
 """Shows the named members of the JSON object at its input, or the names of all of them, with the
 names in an object, or in the first one of a list of objects, below.
 
-Usage: members.py [NAME...]
+Usage: members.py [PATH...]
+A path is a name, or names apart by full stops; it begins at the object or at its member `format`.
+A name that ends with [] stands for a list, and what follows is shown of each of its objects.
 """
 
 import json
@@ -18,8 +20,24 @@ def show_names(value, indent):
             show_names(first, indent + "  ")
 
 
-answer = json.load(sys.stdin)
+def member(value, names):
+    if not names or value is None:
+        return value
+    name, *rest = names
+    if name.endswith("[]"):
+        return [member(item, rest) for item in value[name[:-2]]]
+    return member(value.get(name), rest)
+
+
+def found(answer, path):
+    names = path.split(".")
+    begins_here = names[0].removesuffix("[]") in answer
+    return member(answer if begins_here else answer.get("format", {}), names)
+
+
+text = json.load(sys.stdin)
 if len(sys.argv) > 1:
-    print(json.dumps({name: answer.get(name) for name in sys.argv[1:]}, ensure_ascii=False))
+    shown = {path: found(text, path) for path in sys.argv[1:]}
+    print(json.dumps(shown, ensure_ascii=False))
 else:
-    show_names(answer, "")
+    show_names(text, "")
