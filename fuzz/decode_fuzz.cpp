@@ -14,7 +14,7 @@
 namespace {
 
 using fuzz::require;
-using textimport::made::outcome;
+using textimport::made::Outcome;
 
 class Pieces : public textimport::ByteSource {
  public:
@@ -40,7 +40,7 @@ std::size_t utf8_length(std::u16string_view const text) {
   return length;
 }
 
-void require_sound(outcome const& read, std::string_view const bytes) {
+void require_sound(Outcome const& read, std::string_view const bytes) {
   auto const& [lf, crlf, cr] = read.findings.line_endings;
   auto const count = [&read](char16_t const unit) {
     return static_cast<std::uint64_t>(std::ranges::count(read.sample, unit));
@@ -60,7 +60,7 @@ void require_sound(outcome const& read, std::string_view const bytes) {
   }
 }
 
-void require_same(outcome const& a, outcome const& b) {
+void require_same(Outcome const& a, Outcome const& b) {
   require(a.is_open == b.is_open && a.error == b.error && a.message == b.message,
           "the same error, whatever the pieces");
   require(a.sample == b.sample && a.whole == b.whole, "the same text, whatever the pieces");
@@ -99,7 +99,7 @@ extern "C" int LLVMFuzzerTestOneInput(  // NOLINT(readability-identifier-naming)
   if (textimport::compression_of(bytes) != "none") {
     options.block_bytes += 4096;  // a few bytes may be 16 MiB of text, too many to take one by one
   }
-  outcome const read = textimport::made::read_all(std::make_unique<Pieces>(bytes, piece), options);
+  Outcome const read = textimport::made::read_all(std::make_unique<Pieces>(bytes, piece), options);
   require_sound(read, bytes);
   options.block_bytes = std::size_t{1} << 16;
   require_same(read, textimport::made::read_all(bytes, options));

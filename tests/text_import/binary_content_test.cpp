@@ -12,12 +12,12 @@ namespace textimport {
 namespace {
 
 using namespace std::string_literals;
-using made::outcome;
+using made::Outcome;
 using made::read_all;
 
 TEST(binary_content, is_named_and_is_not_what_only_begins_alike) {
   made::for_each_row("binary_content.tsv", [&](made::cells const& row) {
-    outcome const read = read_all(row[0]);
+    Outcome const read = read_all(row[0]);
     SCOPED_TRACE(row[1] + " " + row[0] + ": " + read.message);
     EXPECT_EQ(read.error, row[1] == "text" ? "" : "binary_content");
     EXPECT_TRUE(row[1] == "text" || read.message.find(row[1]) != std::string::npos);

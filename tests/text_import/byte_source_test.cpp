@@ -17,15 +17,15 @@ namespace textimport {
 namespace {
 
 /// A folder of the test's own, gone at its end.
-class files : public testing::Test {
+class Files : public testing::Test {
  public:
-  files(files const&) = delete;
-  files(files&&) = delete;
-  files& operator=(files const&) = delete;
-  files& operator=(files&&) = delete;
+  Files(Files const&) = delete;
+  Files(Files&&) = delete;
+  Files& operator=(Files const&) = delete;
+  Files& operator=(Files&&) = delete;
 
  protected:
-  files() {
+  Files() {
     std::string folder = (std::filesystem::temp_directory_path() / "text_import_XXXXXX").string();
     if (::mkdtemp(folder.data()) == nullptr) {
       throw std::filesystem::filesystem_error("mkdtemp",
@@ -34,7 +34,7 @@ class files : public testing::Test {
     folder_ = folder;
   }
 
-  ~files() override { std::filesystem::remove_all(folder_); }
+  ~Files() override { std::filesystem::remove_all(folder_); }
 
   std::string write(std::string const& name, std::string const& bytes) {
     std::string path = folder_ + "/" + name;
@@ -55,7 +55,7 @@ std::string open_error(std::string const& path) {
   }
 }
 
-TEST_F(files, that_cannot_be_opened_are_told_apart) {
+TEST_F(Files, that_cannot_be_opened_are_told_apart) {
   std::string const file = write("file", "a,b\n");
   std::string const loop = folder_ + "/loop";
   std::filesystem::create_symlink(loop, loop);
@@ -72,7 +72,7 @@ TEST_F(files, that_cannot_be_opened_are_told_apart) {
   }
 }
 
-TEST_F(files, before_a_colon_are_archives_of_a_member) {
+TEST_F(Files, before_a_colon_are_archives_of_a_member) {
   std::string const archive = write("a.zip", made::zip({{"m", "1\n"}, {"n:o", "2\n"}}));
   std::filesystem::create_directory(folder_ + "/d");
   write("plain:m", "3\n");
@@ -87,7 +87,7 @@ TEST_F(files, before_a_colon_are_archives_of_a_member) {
 }
 
 /// read(2) as a script: interrupted before every call, pieces of 64 bytes, an error at one call.
-struct scripted_read {
+struct ScriptedRead {
   std::string bytes;
   std::size_t failing_call;
   std::size_t position = 0;
@@ -111,14 +111,14 @@ struct scripted_read {
   }
 };
 
-TEST_F(files, that_fail_at_any_read_say_where_and_why) {
+TEST_F(Files, that_fail_at_any_read_say_where_and_why) {
   std::string const plain = made::table_of(2000);
   for (char const* const format : {"none", "gzip", "bzip2", "xz", "zstd", "lz4", "zip"}) {
     std::string const bytes = format == std::string("none") ? plain : made::packed(format, plain);
     std::size_t const reads = (bytes.size() + 63) / 64 + 1;  // with the end
     for (std::size_t call = 1; call <= reads + 1; ++call) {
-      made::outcome const read =
-          made::read_all(open_bytes(write("file", ""), scripted_read{bytes, call}));
+      made::Outcome const read =
+          made::read_all(open_bytes(write("file", ""), ScriptedRead{bytes, call}));
       SCOPED_TRACE(std::to_string(call) + ": " + read.message);
       if (call > reads) {
         EXPECT_TRUE(read.error.empty() && read.whole == made::utf16(plain));
@@ -133,7 +133,7 @@ TEST_F(files, that_fail_at_any_read_say_where_and_why) {
   }
 }
 
-TEST_F(files, are_not_read_behind_their_end_or_their_error) {
+TEST_F(Files, are_not_read_behind_their_end_or_their_error) {
   std::size_t calls = 0;
   for (int const failure : {0, EIO}) {
     calls = 0;

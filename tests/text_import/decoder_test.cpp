@@ -13,15 +13,15 @@
 namespace textimport {
 namespace {
 
-struct decoding {
+struct Decoding {
   std::u16string text;
   DecodingCounts counts;
   std::optional<std::uint64_t> bad_byte;  // where a strict decoder stopped
 };
 
-decoding decoded(std::string const& encoding, std::string_view bytes, std::size_t const block,
+Decoding decoded(std::string const& encoding, std::string_view bytes, std::size_t const block,
                  bool const strict = false) {
-  decoding result;
+  Decoding result;
   Decoder decoder(encoding, 0, strict, "made");
   try {
     for (; !bytes.empty(); bytes.remove_prefix(std::min(block, bytes.size()))) {
@@ -46,11 +46,11 @@ TEST(decoder, gives_the_same_in_blocks_of_any_size) {
     }
     for (std::size_t const block : {1U, 2U, 3U, 4U, 5U, 6U, 7U, 8U, 1000U}) {
       SCOPED_TRACE(row[0] + " " + row[2] + " in blocks of " + std::to_string(block));
-      decoding const read = decoded(row[0], row[1], block);
+      Decoding const read = decoded(row[0], row[1], block);
       EXPECT_TRUE(read.text == text) << testing::PrintToString(read.text);
       EXPECT_EQ(std::to_string(read.counts.bad_bytes), row[3]);
       EXPECT_EQ(read.counts.first_bad_offsets, bad_offsets);
-      decoding const strict = decoded(row[0], row[1], block, true);
+      Decoding const strict = decoded(row[0], row[1], block, true);
       ASSERT_EQ(strict.bad_byte.has_value(), !bad_offsets.empty());
       EXPECT_TRUE(text.starts_with(strict.text));
       if (strict.bad_byte) {
@@ -77,9 +77,9 @@ TEST(decoder, gives_the_same_for_random_bytes_in_blocks_of_any_size) {
         bytes.push_back(random(3) == 0 ? static_cast<char>(random(256))
                                        : often[random(often.size())]);
       }
-      decoding const whole = decoded(encoding, bytes, 100);
+      Decoding const whole = decoded(encoding, bytes, 100);
       for (std::size_t const block : {1U, 2U, 3U, 5U}) {
-        decoding const cut = decoded(encoding, bytes, block);
+        Decoding const cut = decoded(encoding, bytes, block);
         SCOPED_TRACE(encoding + (" " + testing::PrintToString(bytes)));
         EXPECT_TRUE(cut.text == whole.text && cut.counts.bad_bytes == whole.counts.bad_bytes);
         EXPECT_EQ(cut.counts.first_bad_offsets, whole.counts.first_bad_offsets);

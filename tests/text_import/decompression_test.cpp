@@ -12,16 +12,16 @@
 namespace textimport {
 namespace {
 
-using made::outcome;
+using made::Outcome;
 using made::packed;
 using made::read_all;
 
-class packed_text : public testing::TestWithParam<char const*> {};
+class PackedText : public testing::TestWithParam<char const*> {};
 
-INSTANTIATE_TEST_SUITE_P(decompression, packed_text, testing::ValuesIn(made::packed_formats),
+INSTANTIATE_TEST_SUITE_P(decompression, PackedText, testing::ValuesIn(made::packed_formats),
                          [](auto const& row) { return std::string(row.param); });
 
-TEST_P(packed_text, is_the_text_again_in_blocks_of_any_size) {
+TEST_P(PackedText, is_the_text_again_in_blocks_of_any_size) {
   for (std::size_t const size :
        {std::size_t{0}, std::size_t{1}, std::size_t{5000}, std::size_t{300000}}) {
     std::string const text = size == 1 ? "x" : made::table_of(size);
@@ -34,7 +34,7 @@ TEST_P(packed_text, is_the_text_again_in_blocks_of_any_size) {
       OpenOptions options;
       options.block_bytes = block;
       options.sample_bytes = 100000;
-      outcome const read = read_all(bytes, options);
+      Outcome const read = read_all(bytes, options);
       EXPECT_EQ(read.error, "") << read.message;
       EXPECT_EQ(read.findings.compression, GetParam());
       EXPECT_EQ(read.findings.goes_on, size > 100000);
@@ -43,14 +43,14 @@ TEST_P(packed_text, is_the_text_again_in_blocks_of_any_size) {
   }
 }
 
-TEST_P(packed_text, cut_anywhere_is_a_prefix_and_never_silent) {
+TEST_P(PackedText, cut_anywhere_is_a_prefix_and_never_silent) {
   std::string const text = made::table_of(3000);
   std::string const bytes = packed(GetParam(), text);
   std::string const format = GetParam();
   // What stands behind the text in a zip archive is its table of contents, which is not read.
   std::size_t const end = format == "zip" ? bytes.find("PK\x01\x02") : bytes.size();
   for (std::size_t length = 10; length < end; ++length) {
-    outcome const read = read_all(bytes.substr(0, length));
+    Outcome const read = read_all(bytes.substr(0, length));
     EXPECT_EQ(read.error, "truncated_compression") << length << ": " << read.message;
     EXPECT_TRUE(made::utf16(text).starts_with(read.whole)) << length;
     EXPECT_EQ(read.is_open, !read.whole.empty()) << length;
@@ -60,14 +60,14 @@ TEST_P(packed_text, cut_anywhere_is_a_prefix_and_never_silent) {
   }
 }
 
-class checked_text : public packed_text {};
+class CheckedText : public PackedText {};
 
 // The writer adds no checksum to zstd, so that nobody can notice there.
-INSTANTIATE_TEST_SUITE_P(decompression, checked_text,
+INSTANTIATE_TEST_SUITE_P(decompression, CheckedText,
                          testing::Values("gzip", "bzip2", "xz", "lz4", "zip"),
                          [](auto const& row) { return std::string(row.param); });
 
-TEST_P(checked_text, with_a_flipped_bit_is_never_another_text_in_silence) {
+TEST_P(CheckedText, with_a_flipped_bit_is_never_another_text_in_silence) {
   std::string const format = GetParam();
   std::string const text = made::table_of(600);
   std::string const bytes = packed(format, text);
@@ -79,16 +79,16 @@ TEST_P(checked_text, with_a_flipped_bit_is_never_another_text_in_silence) {
     if (compression_of(damaged) != format || (format == "zip" && bit == 6 * 8 + 3)) {
       continue;  // no longer recognised, or read as the header of an empty member
     }
-    outcome const read = read_all(damaged);
+    Outcome const read = read_all(damaged);
     doubted += read.is_doubted() ? 1U : 0U;
     EXPECT_TRUE(read.is_doubted() || read.whole == made::utf16(text)) << "bit " << bit;
   }
   EXPECT_GT(doubted, end * 2) << "most bits matter";
 }
 
-TEST_P(packed_text, packed_once_more_is_refused) {
+TEST_P(PackedText, packed_once_more_is_refused) {
   for (char const* const outer : {"gzip", "bzip2", "xz", "zstd", "lz4", "zip"}) {
-    outcome const read = read_all(packed(outer, packed(GetParam(), made::table_of(5000))));
+    Outcome const read = read_all(packed(outer, packed(GetParam(), made::table_of(5000))));
     EXPECT_EQ(read.error, "nested_compression") << outer << ": " << read.message;
     EXPECT_FALSE(read.is_open);
   }
@@ -99,7 +99,7 @@ TEST(gzip, compares_checksum_and_length) {
   for (std::size_t const behind_end : {8U, 4U}) {  // the checksum, the length
     std::string bytes = packed("gzip", text);
     bytes[bytes.size() - behind_end] = static_cast<char>(~bytes[bytes.size() - behind_end]);
-    outcome const read = read_all(bytes);
+    Outcome const read = read_all(bytes);
     EXPECT_TRUE(read.whole == made::utf16(text) && read.sample == read.whole);
     EXPECT_FALSE(read.findings.goes_on);
     EXPECT_EQ(read.findings.warnings.size(), 1U);
@@ -111,20 +111,20 @@ TEST(gzip, reads_what_may_follow_a_member) {
   std::string const one = packed("gzip", "a,b\n");
   std::string const two = packed("gzip", "c,d\n");
 
-  struct row {
+  struct Row {
     std::string bytes;
     char16_t const* text;
     std::size_t warnings;
     char const* error;
   };
 
-  for (row const& row :
-       {row{one + two, u"a,b\nc,d\n", 0, ""}, row{one + std::string(512, '\0'), u"a,b\n", 0, ""},
-        row{one + std::string(5, '\0').append(two), u"a,b\nc,d\n", 0, ""},
-        row{one + "other bytes", u"a,b\n", 1, ""},
-        row{one + two.substr(0, 3), u"a,b\n", 1, "truncated_compression"},
-        row{one + "\x1Fzzz", u"a,b\n", 1, "damaged_compression"}}) {
-    outcome const read = read_all(row.bytes);
+  for (Row const& row :
+       {Row{one + two, u"a,b\nc,d\n", 0, ""}, Row{one + std::string(512, '\0'), u"a,b\n", 0, ""},
+        Row{one + std::string(5, '\0').append(two), u"a,b\nc,d\n", 0, ""},
+        Row{one + "other bytes", u"a,b\n", 1, ""},
+        Row{one + two.substr(0, 3), u"a,b\n", 1, "truncated_compression"},
+        Row{one + "\x1Fzzz", u"a,b\n", 1, "damaged_compression"}}) {
+    Outcome const read = read_all(row.bytes);
     EXPECT_TRUE(read.whole == row.text);
     EXPECT_EQ(read.findings.warnings.size(), row.warnings);
     EXPECT_EQ(read.error, row.error) << read.message;
@@ -133,7 +133,7 @@ TEST(gzip, reads_what_may_follow_a_member) {
 
 TEST(ratio_limit, stops_whoever_reads_on_but_not_the_sample) {
   std::string const bomb = packed("bzip2", std::string(std::size_t{40} << 20U, '\n'));
-  outcome const stopped = read_all(bomb);
+  Outcome const stopped = read_all(bomb);
   EXPECT_TRUE(stopped.is_open);
   EXPECT_EQ(stopped.error, "ratio_exceeded");
   EXPECT_LT(stopped.whole.size(), std::size_t{18} << 20U);
@@ -150,7 +150,7 @@ TEST(zip, is_read_by_its_only_or_its_named_member) {
     }
     OpenOptions options;
     options.member = row[0];
-    outcome const read = read_all(made::zip(members), options);
+    Outcome const read = read_all(made::zip(members), options);
     EXPECT_EQ(read.findings.member, row[1]);
     EXPECT_TRUE(read.error == row[2] || read.whole == made::utf16(row[2])) << read.message;
     EXPECT_NE(read.message.find(row[3]), std::string::npos) << read.message;
@@ -161,9 +161,9 @@ TEST(zip, with_a_member_larger_than_the_sample_says_what_was_not_seen) {
   std::string const big = made::table_of(20000);
   OpenOptions options;
   options.sample_bytes = 1000;
-  outcome const one = read_all(made::zip({{"a", big}}), options);
+  Outcome const one = read_all(made::zip({{"a", big}}), options);
   EXPECT_TRUE(one.error.empty() && one.findings.warnings.size() == 1);
-  outcome const two = read_all(made::zip({{"a", big}, {"b", "2\n"}}), options);
+  Outcome const two = read_all(made::zip({{"a", big}, {"b", "2\n"}}), options);
   EXPECT_TRUE(two.is_open && two.whole == made::utf16(big));
   EXPECT_EQ(two.error, "several_members");
   options.member = "b";

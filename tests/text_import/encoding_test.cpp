@@ -35,7 +35,7 @@ TEST(encoding, is_found_in_tables_and_gives_their_text) {
     SCOPED_TRACE(row[0] + " " + row[1] + " " + row[3]);
     std::string const bytes = row[2] + encoded(row[0].c_str(), texts.at(row[3]));
     std::u16string const text = made::utf16(texts.at(row[3]));
-    made::outcome const read = read_all(bytes);
+    made::Outcome const read = read_all(bytes);
     EXPECT_EQ(read.findings.encoding.name, row[0]);
     EXPECT_EQ(name_of(read.findings.encoding.reason), row[1]);
     EXPECT_EQ(read.findings.encoding.is_guess(), row[1] == "statistics");

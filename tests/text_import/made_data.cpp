@@ -80,8 +80,8 @@ std::string table_of(std::size_t const bytes) {
   }
 }
 
-outcome read_all(std::unique_ptr<ByteSource> bytes, OpenOptions const& options) {
-  outcome result;
+Outcome read_all(std::unique_ptr<ByteSource> bytes, OpenOptions const& options) {
+  Outcome result;
   try {
     TextSource source = TextSource::open(std::move(bytes), "made", options);
     result.is_open = true;
@@ -112,7 +112,7 @@ outcome read_all(std::unique_ptr<ByteSource> bytes, OpenOptions const& options) 
   return result;
 }
 
-outcome read_all(std::string const& bytes, OpenOptions const& options) {
+Outcome read_all(std::string const& bytes, OpenOptions const& options) {
   return read_all(memory_bytes(bytes), options);
 }
 

@@ -26,7 +26,7 @@ inline constexpr char const* packed_formats[] = {"gzip", "bzip2", "xz", "zstd", 
 std::string table_of(std::size_t bytes);
 
 /// What came of a text: its sample and stream, or the kinds of errors met at opening and reading.
-struct outcome {
+struct Outcome {
   bool is_open = false;
   TextFindings findings;
   std::u16string sample;
@@ -41,8 +41,8 @@ struct outcome {
 };
 
 /// Opens and reads to the end.
-outcome read_all(std::unique_ptr<ByteSource> bytes, OpenOptions const& options = {});
-outcome read_all(std::string const& bytes, OpenOptions const& options = {});
+Outcome read_all(std::unique_ptr<ByteSource> bytes, OpenOptions const& options = {});
+Outcome read_all(std::string const& bytes, OpenOptions const& options = {});
 
 /// UTF-8 to UTF-16, for expected texts.
 std::u16string utf16(std::string const& utf8);

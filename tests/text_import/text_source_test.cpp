@@ -46,7 +46,7 @@ void operator delete(void* const memory, std::size_t) noexcept {
 namespace textimport {
 namespace {
 
-using made::outcome;
+using made::Outcome;
 using made::read_all;
 
 TEST(sample, is_cut_behind_the_last_whole_line_if_the_text_goes_on) {
@@ -60,7 +60,7 @@ TEST(sample, is_cut_behind_the_last_whole_line_if_the_text_goes_on) {
       for (std::string ending; std::getline(endings, ending, ' ');) {
         options.line_endings.push_back(made::utf16(ending));
       }
-      outcome const read = read_all(row[0], options);
+      Outcome const read = read_all(row[0], options);
       EXPECT_EQ(read.error, "");
       EXPECT_TRUE(read.sample == made::utf16(row[2])) << testing::PrintToString(read.sample);
       EXPECT_EQ(read.findings.goes_on, row[3] != "ends");
@@ -87,7 +87,7 @@ TEST(sample, has_the_same_counts_wherever_they_stand) {
   options.encoding = "UTF-8";
   for (std::size_t before = 0; before < 520; ++before) {
     SCOPED_TRACE(before);
-    outcome const read =
+    Outcome const read =
         read_all(std::string(before, 'x') + std::string("\r\n\r\0\n\xEF\xBF\xBF\r", 9), options);
     EXPECT_EQ(read.sample.size(), before + 7);
     EXPECT_EQ(read.findings.line_endings.lf, 1U);
@@ -149,13 +149,13 @@ TEST(stream, goes_on_where_the_sample_ended_with_everything_counted) {
   OpenOptions options;
   options.sample_bytes = 1000;
   options.block_bytes = 100;
-  outcome const read = read_all(text, options);
+  Outcome const read = read_all(text, options);
   EXPECT_EQ(read.findings.decoding.bad_bytes, 0U);
   EXPECT_EQ(read.decoded.bad_bytes, 3U);
   EXPECT_EQ(read.decoded.first_bad_offsets,
             (std::vector<std::uint64_t>{begin.size(), text.size() - 2, text.size() - 1}));
   options.strict = true;
-  outcome const strict = read_all(text, options);
+  Outcome const strict = read_all(text, options);
   EXPECT_TRUE(strict.is_open && strict.whole == made::utf16(begin));
   EXPECT_EQ(strict.error, "bad_bytes");
   EXPECT_EQ(strict.error_byte, begin.size());
@@ -176,7 +176,7 @@ TEST(stream, outlives_the_source_and_can_be_taken_once) {
 }
 
 /// 64 MiB of lines, made as they are read.
-class endless_lines : public ByteSource {
+class EndlessLines : public ByteSource {
  public:
   std::size_t read(char* const room, std::size_t const capacity) override {
     std::size_t const length = std::min(capacity, left_);
@@ -194,7 +194,7 @@ class endless_lines : public ByteSource {
 TEST(memory, stays_below_its_bound_for_text_of_any_size) {
   std::size_t const before = bytes_in_use;
   most_bytes_in_use = before;
-  TextSource source = TextSource::open(std::make_unique<endless_lines>(), "made");
+  TextSource source = TextSource::open(std::make_unique<EndlessLines>(), "made");
   EXPECT_LT(most_bytes_in_use - before, (std::size_t{7} << 20U) / 2);
   auto stream = source.stream();
   stream.resizeInternalBuffer(1 << 16);

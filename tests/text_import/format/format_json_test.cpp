@@ -41,14 +41,14 @@ constexpr std::size_t num_members() {
 }
 
 template <class Part>
-class format_part : public testing::Test {};
+class FormatPart : public testing::Test {};
 
 using parts = testing::Types<LineEndingCounts, SourceFormat, LayoutFormat, QuotingFormat,
                              CommentFormat, MarkFormat, DataStart, DataEnd, Region, NumberFormat,
                              DateFormat, Extent, Column, Format>;
-TYPED_TEST_SUITE(format_part, parts);
+TYPED_TEST_SUITE(FormatPart, parts);
 
-TYPED_TEST(format_part, has_no_member_that_json_leaves_out) {
+TYPED_TEST(FormatPart, has_no_member_that_json_leaves_out) {
   TypeParam part;
   std::size_t visited = 0;
   auto const count = [&visited](char const* /*name*/, auto& /*member*/) { ++visited; };

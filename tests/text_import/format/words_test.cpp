@@ -33,7 +33,7 @@ bool is_word(std::string_view const word) {
 }
 
 template <class Enum>
-class words : public testing::Test {};
+class Words : public testing::Test {};
 
 using enumerations = testing::Types<
     Origin, Layout, QuoteEscape, StartRule, EndRule, OddRowRule, ValueType, DateOrder, EpochUnit,
@@ -42,9 +42,9 @@ using enumerations = testing::Types<
     textio::enums::EmptyLineRule, textio::enums::PartialFieldRule, textio::detection::CandidateFate,
     textio::detection::RejectionClause, textio::detection::Outcome, textio::detection::Reason,
     textio::detection::NotTried, textio::enums::StrategyMode, textio::enums::ColumnType>;
-TYPED_TEST_SUITE(words, enumerations);
+TYPED_TEST_SUITE(Words, enumerations);
 
-TYPED_TEST(words, name_every_value_once_and_lead_back_to_it) {
+TYPED_TEST(Words, name_every_value_once_and_lead_back_to_it) {
   std::set<std::size_t> values;
   std::set<std::string_view> seen;
   for (auto const& [value, word] : all_words<TypeParam>()) {
