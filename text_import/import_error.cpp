@@ -8,37 +8,37 @@ namespace textimport {
 char const* name_of(ImportErrorKind const kind) noexcept {
   switch (kind) {
     case ImportErrorKind::FileNotFound:
-      return "file_not_found";
+      return "file-not-found";
     case ImportErrorKind::NoPermission:
-      return "no_permission";
+      return "no-permission";
     case ImportErrorKind::IsDirectory:
-      return "is_directory";
+      return "is-directory";
     case ImportErrorKind::OpenFailed:
-      return "open_failed";
+      return "open-failed";
     case ImportErrorKind::ReadFailed:
-      return "read_failed";
+      return "read-failed";
     case ImportErrorKind::TruncatedCompression:
-      return "truncated_compression";
+      return "truncated-compression";
     case ImportErrorKind::DamagedCompression:
-      return "damaged_compression";
+      return "damaged-compression";
     case ImportErrorKind::WrongChecksum:
-      return "wrong_checksum";
+      return "wrong-checksum";
     case ImportErrorKind::NestedCompression:
-      return "nested_compression";
+      return "nested-compression";
     case ImportErrorKind::SeveralMembers:
-      return "several_members";
+      return "several-members";
     case ImportErrorKind::MemberNotFound:
-      return "member_not_found";
+      return "member-not-found";
     case ImportErrorKind::UnsupportedArchive:
-      return "unsupported_archive";
+      return "unsupported-archive";
     case ImportErrorKind::RatioExceeded:
-      return "ratio_exceeded";
+      return "ratio-exceeded";
     case ImportErrorKind::BinaryContent:
-      return "binary_content";
+      return "binary-content";
     case ImportErrorKind::UnknownEncoding:
-      return "unknown_encoding";
+      return "unknown-encoding";
     case ImportErrorKind::BadBytes:
-      return "bad_bytes";
+      return "bad-bytes";
   }
   return "unknown";
 }

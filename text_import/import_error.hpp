@@ -32,7 +32,7 @@ enum class ImportErrorKind : std::uint8_t {
   BadBytes,              ///< bytes without a meaning in the encoding, and the caller is strict
 };
 
-/// The word for a kind in machine-readable output: "file_not_found", "no_permission" ...
+/// The word for a kind in machine-readable output: "file-not-found", "no-permission" ...
 [[nodiscard]] TEXT_IMPORT_API char const* name_of(ImportErrorKind kind) noexcept;
 
 /// A text could not be opened or read any further.

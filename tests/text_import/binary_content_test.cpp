@@ -19,11 +19,11 @@ TEST(binary_content, is_named_and_is_not_what_only_begins_alike) {
   made::for_each_row("binary_content.tsv", [&](made::cells const& row) {
     Outcome const read = read_all(row[0]);
     SCOPED_TRACE(row[1] + " " + row[0] + ": " + read.message);
-    EXPECT_EQ(read.error, row[1] == "text" ? "" : "binary_content");
+    EXPECT_EQ(read.error, row[1] == "text" ? "" : "binary-content");
     EXPECT_TRUE(row[1] == "text" || read.message.find(row[1]) != std::string::npos);
   });
-  EXPECT_EQ(read_all(made::zip({{"[Content_Types].xml", "<x/>"}})).error, "binary_content");
-  EXPECT_EQ(read_all(std::string(257, 'a') + "ustar\0"s).error, "binary_content");
+  EXPECT_EQ(read_all(made::zip({{"[Content_Types].xml", "<x/>"}})).error, "binary-content");
+  EXPECT_EQ(read_all(std::string(257, 'a') + "ustar\0"s).error, "binary-content");
 }
 
 TEST(binary_content, has_many_control_characters_of_several_kinds) {
@@ -36,11 +36,11 @@ TEST(binary_content, has_many_control_characters_of_several_kinds) {
     small_numbers.push_back(static_cast<char>(state >> 28U));
     small_numbers.push_back('\0');
   }
-  EXPECT_EQ(read_all(noise).error, "binary_content");
-  EXPECT_EQ(read_all(made::packed("gzip", noise)).error, "binary_content");
-  EXPECT_EQ(read_all(small_numbers).error, "binary_content");
+  EXPECT_EQ(read_all(noise).error, "binary-content");
+  EXPECT_EQ(read_all(made::packed("gzip", noise)).error, "binary-content");
+  EXPECT_EQ(read_all(small_numbers).error, "binary-content");
   std::string const odd = "\1\2\3\4\5\6\7\16\17\177\1\2\3\4\5\6\7\16\17\177";
-  EXPECT_EQ(read_all(std::string(300, 'x') + odd).error, "binary_content");
+  EXPECT_EQ(read_all(std::string(300, 'x') + odd).error, "binary-content");
   EXPECT_EQ(read_all(std::string(600, 'x') + odd).error, "") << "one in 32";
   EXPECT_EQ(read_all("a,b\nc,d\n" + std::string(1000, '\0')).error, "") << "padding";
   EXPECT_EQ(read_all(made::table_of(2000) + "\1\2\3\4\5\6\7").error, "") << "few in much text";

@@ -60,15 +60,15 @@ TEST_F(Files, that_cannot_be_opened_are_told_apart) {
   std::string const loop = folder_ + "/loop";
   std::filesystem::create_symlink(loop, loop);
   EXPECT_EQ(open_error(file), "");
-  EXPECT_EQ(open_error(folder_ + "/none"), "file_not_found " + std::to_string(ENOENT));
-  EXPECT_EQ(open_error(file + "/inside"), "file_not_found " + std::to_string(ENOTDIR));
-  EXPECT_EQ(open_error(file + std::string("\0x", 2)), "file_not_found " + std::to_string(ENOENT));
-  EXPECT_EQ(open_error(""), "file_not_found " + std::to_string(ENOENT));
-  EXPECT_EQ(open_error(folder_), "is_directory " + std::to_string(EISDIR));
-  EXPECT_EQ(open_error(loop), "open_failed " + std::to_string(ELOOP));
+  EXPECT_EQ(open_error(folder_ + "/none"), "file-not-found " + std::to_string(ENOENT));
+  EXPECT_EQ(open_error(file + "/inside"), "file-not-found " + std::to_string(ENOTDIR));
+  EXPECT_EQ(open_error(file + std::string("\0x", 2)), "file-not-found " + std::to_string(ENOENT));
+  EXPECT_EQ(open_error(""), "file-not-found " + std::to_string(ENOENT));
+  EXPECT_EQ(open_error(folder_), "is-directory " + std::to_string(EISDIR));
+  EXPECT_EQ(open_error(loop), "open-failed " + std::to_string(ELOOP));
   if (::geteuid() != 0) {
     std::filesystem::permissions(file, std::filesystem::perms::none);
-    EXPECT_EQ(open_error(file), "no_permission " + std::to_string(EACCES));
+    EXPECT_EQ(open_error(file), "no-permission " + std::to_string(EACCES));
   }
 }
 
@@ -82,8 +82,8 @@ TEST_F(Files, before_a_colon_are_archives_of_a_member) {
   EXPECT_EQ(TextSource::open(archive + ":n:o").sample().view(), u"2\n");
   EXPECT_EQ(TextSource::open(folder_ + "/plain:m").sample().view(), u"3\n") << "a file of its own";
   EXPECT_EQ(TextSource::open(folder_ + "/d:e.zip:m").sample().view(), u"4\n") << "d is a folder";
-  EXPECT_EQ(open_error(archive + ":x"), "member_not_found 0");
-  EXPECT_EQ(open_error(folder_ + "/none:m"), "file_not_found " + std::to_string(ENOENT));
+  EXPECT_EQ(open_error(archive + ":x"), "member-not-found 0");
+  EXPECT_EQ(open_error(folder_ + "/none:m"), "file-not-found " + std::to_string(ENOENT));
 }
 
 /// read(2) as a script: interrupted before every call, pieces of 64 bytes, an error at one call.
@@ -125,7 +125,7 @@ TEST_F(Files, that_fail_at_any_read_say_where_and_why) {
         continue;
       }
       std::uint64_t const where = std::min((call - 1) * 64, bytes.size());
-      EXPECT_EQ(read.error, "read_failed");
+      EXPECT_EQ(read.error, "read-failed");
       EXPECT_EQ(read.error_byte, where);
       EXPECT_NE(read.message.find("byte " + std::to_string(where) + " "), std::string::npos);
       EXPECT_NE(read.message.find(std::strerror(EIO)), std::string::npos);

@@ -51,7 +51,7 @@ TEST_P(PackedText, cut_anywhere_is_a_prefix_and_never_silent) {
   std::size_t const end = format == "zip" ? bytes.find("PK\x01\x02") : bytes.size();
   for (std::size_t length = 10; length < end; ++length) {
     Outcome const read = read_all(bytes.substr(0, length));
-    EXPECT_EQ(read.error, "truncated_compression") << length << ": " << read.message;
+    EXPECT_EQ(read.error, "truncated-compression") << length << ": " << read.message;
     EXPECT_TRUE(made::utf16(text).starts_with(read.whole)) << length;
     EXPECT_EQ(read.is_open, !read.whole.empty()) << length;
     EXPECT_EQ(read.is_open, !read.findings.warnings.empty()) << length;
@@ -89,7 +89,7 @@ TEST_P(CheckedText, with_a_flipped_bit_is_never_another_text_in_silence) {
 TEST_P(PackedText, packed_once_more_is_refused) {
   for (char const* const outer : {"gzip", "bzip2", "xz", "zstd", "lz4", "zip"}) {
     Outcome const read = read_all(packed(outer, packed(GetParam(), made::table_of(5000))));
-    EXPECT_EQ(read.error, "nested_compression") << outer << ": " << read.message;
+    EXPECT_EQ(read.error, "nested-compression") << outer << ": " << read.message;
     EXPECT_FALSE(read.is_open);
   }
 }
@@ -103,7 +103,7 @@ TEST(gzip, compares_checksum_and_length) {
     EXPECT_TRUE(read.whole == made::utf16(text) && read.sample == read.whole);
     EXPECT_FALSE(read.findings.goes_on);
     EXPECT_EQ(read.findings.warnings.size(), 1U);
-    EXPECT_EQ(read.error, "wrong_checksum");
+    EXPECT_EQ(read.error, "wrong-checksum");
   }
 }
 
@@ -122,8 +122,8 @@ TEST(gzip, reads_what_may_follow_a_member) {
        {Row{one + two, u"a,b\nc,d\n", 0, ""}, Row{one + std::string(512, '\0'), u"a,b\n", 0, ""},
         Row{one + std::string(5, '\0').append(two), u"a,b\nc,d\n", 0, ""},
         Row{one + "other bytes", u"a,b\n", 1, ""},
-        Row{one + two.substr(0, 3), u"a,b\n", 1, "truncated_compression"},
-        Row{one + "\x1Fzzz", u"a,b\n", 1, "damaged_compression"}}) {
+        Row{one + two.substr(0, 3), u"a,b\n", 1, "truncated-compression"},
+        Row{one + "\x1Fzzz", u"a,b\n", 1, "damaged-compression"}}) {
     Outcome const read = read_all(row.bytes);
     EXPECT_TRUE(read.whole == row.text);
     EXPECT_EQ(read.findings.warnings.size(), row.warnings);
@@ -135,7 +135,7 @@ TEST(ratio_limit, stops_whoever_reads_on_but_not_the_sample) {
   std::string const bomb = packed("bzip2", std::string(std::size_t{40} << 20U, '\n'));
   Outcome const stopped = read_all(bomb);
   EXPECT_TRUE(stopped.is_open);
-  EXPECT_EQ(stopped.error, "ratio_exceeded");
+  EXPECT_EQ(stopped.error, "ratio-exceeded");
   EXPECT_LT(stopped.whole.size(), std::size_t{18} << 20U);
   OpenOptions unlimited;
   unlimited.ratio_limit = 0;
@@ -165,7 +165,7 @@ TEST(zip, with_a_member_larger_than_the_sample_says_what_was_not_seen) {
   EXPECT_TRUE(one.error.empty() && one.findings.warnings.size() == 1);
   Outcome const two = read_all(made::zip({{"a", big}, {"b", "2\n"}}), options);
   EXPECT_TRUE(two.is_open && two.whole == made::utf16(big));
-  EXPECT_EQ(two.error, "several_members");
+  EXPECT_EQ(two.error, "several-members");
   options.member = "b";
   EXPECT_EQ(read_all(made::zip({{"a", big}, {"b", "2\n"}}), options).whole, u"2\n");
 }
@@ -185,8 +185,8 @@ TEST(ArchiveLibrary, that_cannot_be_loaded_is_named) {
 TEST(member, of_what_is_no_archive_is_an_error) {
   OpenOptions options;
   options.member = "a.csv";
-  EXPECT_EQ(read_all("a,b\n", options).error, "member_not_found");
-  EXPECT_EQ(read_all(packed("gzip", "a,b\n"), options).error, "member_not_found");
+  EXPECT_EQ(read_all("a,b\n", options).error, "member-not-found");
+  EXPECT_EQ(read_all(packed("gzip", "a,b\n"), options).error, "member-not-found");
 }
 
 }  // namespace

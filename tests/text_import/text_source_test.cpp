@@ -157,7 +157,7 @@ TEST(stream, goes_on_where_the_sample_ended_with_everything_counted) {
   options.strict = true;
   Outcome const strict = read_all(text, options);
   EXPECT_TRUE(strict.is_open && strict.whole == made::utf16(begin));
-  EXPECT_EQ(strict.error, "bad_bytes");
+  EXPECT_EQ(strict.error, "bad-bytes");
   EXPECT_EQ(strict.error_byte, begin.size());
   options.sample_bytes = 10000;
   EXPECT_FALSE(read_all(text, options).is_open);

@@ -20,9 +20,6 @@
 
 namespace textimport {
 
-/// The number of the JSON form. It changes when a member is removed or changes its meaning.
-inline constexpr std::uint64_t json_schema = 2;
-
 enum class JsonForm : std::uint8_t {
   Indented,  ///< for people and files: UTF-8, and a line feed at the end
   Compact,   ///< one line of ASCII without a line feed

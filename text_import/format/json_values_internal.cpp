@@ -4,7 +4,6 @@
 
 #include <cmath>
 
-#include "text_import/format/format_json.hpp"
 #include "text_import/format/utf.hpp"
 
 namespace textimport {

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <concepts>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <type_traits>
@@ -19,6 +20,10 @@
 namespace textimport {
 
 using Json = nlohmann::ordered_json;
+
+/// "schema": the number of the JSON form. It changes when a member is removed or changes its
+/// meaning.
+inline constexpr std::uint64_t json_schema = 2;
 
 [[nodiscard]] Json json_value(std::u16string const& text);
 [[nodiscard]] Json json_value(std::string const& bytes);

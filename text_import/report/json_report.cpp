@@ -2,7 +2,6 @@
 
 #include "text_import/report/json_report.hpp"
 
-#include "text_import/format/format_json.hpp"
 #include "text_import/format/json_values_internal.hpp"
 #include "text_import/format/utf.hpp"
 #include "text_import/report/engine_json_internal.hpp"

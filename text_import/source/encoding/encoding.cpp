@@ -249,15 +249,15 @@ char const* name_of(EncodingReason const reason) noexcept {
     case EncodingReason::Given:
       return "given";
     case EncodingReason::ByteOrderMark:
-      return "byte_order_mark";
+      return "byte-order-mark";
     case EncodingReason::NulPattern:
-      return "nul_pattern";
+      return "nul-pattern";
     case EncodingReason::OnlyAscii:
-      return "only_ascii";
+      return "only-ascii";
     case EncodingReason::ValidUtf8:
-      return "valid_utf8";
+      return "valid-utf8";
     case EncodingReason::MostlyUtf8:
-      return "mostly_utf8";
+      return "mostly-utf8";
     case EncodingReason::Statistics:
       return "statistics";
     case EncodingReason::Fallback:

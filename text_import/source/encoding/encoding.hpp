@@ -26,7 +26,7 @@ enum class EncodingReason : std::uint8_t {
   Fallback,       ///< a guess: no test answered; read as windows-1252
 };
 
-/// The word for a reason in machine-readable output: "given", "byte_order_mark" ...
+/// The word for a reason in machine-readable output: "given", "byte-order-mark" ...
 [[nodiscard]] TEXT_IMPORT_API char const* name_of(EncodingReason reason) noexcept;
 
 /// An encoding and why it was chosen.
