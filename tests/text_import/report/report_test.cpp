@@ -198,7 +198,8 @@ First each line was read as one value
 Characters in the middle lines of the sample
     tried: see the readings below
     not tried: letters and digits, and of the others
-      quotation mark, "-": never delimiters: quotes, brackets and signs belong to values
+      quotation mark, "-": never delimiters: quotes, brackets and signs belong
+      to values
       space: only in the first and last lines, where titles and sums stand
 
 Readings that were tried; irregular must be below 1
