@@ -37,7 +37,7 @@ std::string quote_text(QuotingFormat const& quoting) {
   if (quoting.quote == 0) {
     return "none; quotation marks belong to the values";
   }
-  std::string const quote = display_text({&quoting.quote, 1}).utf8;
+  std::string quote = display_text({&quoting.quote, 1}).utf8;
   switch (quoting.escape_kind) {
     case QuoteEscape::Doubled:
       break;

@@ -10,7 +10,7 @@ namespace textimport::reporting {
 
 /// The characters from which on it is another number: four times the character and the number of
 /// cells, or 3 for what is hidden. Ascending.
-inline constexpr std::array cell_changes{
+inline constexpr std::array<std::uint32_t, 976> cell_changes{
     // clang-format off
     0x3U, 0x81U, 0x1ffU, 0x281U, 0x2b7U, 0x2b9U, 0xc00U, 0xdc1U, 0x120cU, 0x1229U,
     0x1644U, 0x16f9U, 0x16fcU, 0x1701U, 0x1704U, 0x170dU, 0x1710U, 0x1719U, 0x171cU, 0x1721U,

@@ -18,7 +18,7 @@ struct CharacterName {
   std::string_view many;
 };
 
-constexpr std::array<CharacterName, 29> character_names{{
+constexpr std::array<CharacterName, 31> character_names{{
     {u'\0', "NUL", "NULs"},
     {u'\t', "tab", "tabs"},
     {u'\v', "vertical tab", "vertical tabs"},
@@ -29,9 +29,11 @@ constexpr std::array<CharacterName, 29> character_names{{
     {u'\x1f', "unit separator", "unit separators"},
     {u' ', "space", "spaces"},
     {u'!', "exclamation mark", "exclamation marks"},
+    {u'"', "quotation mark", "quotation marks"},
     {u'#', "number sign", "number signs"},
     {u'%', "per cent", "per cent signs"},
     {u'&', "ampersand", "ampersands"},
+    {u'\'', "apostrophe", "apostrophes"},
     {u'*', "asterisk", "asterisks"},
     {u',', "comma", "commas"},
     {u'.', "full stop", "full stops"},

@@ -117,7 +117,7 @@ std::string why_lines(Evidence const& evidence) {
     return "nothing splits the lines into columns";
   }
   Candidate const& nearest = nearest_to_a_table(evidence);
-  std::string const subject =
+  std::string subject =
       count == 1
           ? fmt::format("the only reading as a table, {}, does not hold", fields_text(nearest))
           : fmt::format("none of {} readings as a table holds; the nearest is {}", count,
