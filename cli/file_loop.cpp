@@ -94,7 +94,8 @@ void take_format(Task& task) {
   if (task.opening.encoding.empty()) {
     task.opening.encoding = source.encoding;
   }
-  if (task.opening.line_endings.empty()) {
+  if (task.opening.line_endings.empty() &&
+      source.line_endings != textimport::SourceFormat().line_endings) {
     task.opening.line_endings = source.line_endings;
   }
 }

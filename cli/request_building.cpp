@@ -49,6 +49,18 @@ std::vector<std::u16string> text_values(Arguments const& arguments, Option const
   return texts;
 }
 
+/// Empty when the option is not given.
+std::string path_value(Arguments const& arguments, Option const option) {
+  if (!arguments.has(option)) {
+    return {};
+  }
+  std::string const& path = arguments.value(option);
+  if (path.empty()) {
+    refuse_value(option, path, "the name of a file");
+  }
+  return path;
+}
+
 void take_reading(Arguments const& arguments, Task& task) {
   auto& opening = task.opening;
   with_value(arguments, Option::Encoding,
@@ -91,7 +103,7 @@ void take_layout(Arguments const& arguments, Task& task) {
   with_value(arguments, Option::Columns, [&](std::string const& word) {
     request.num_columns = count_value(Option::Columns, word, 1, largest_count);
   });
-  with_value(arguments, Option::Format, [&](std::string const& path) { task.format_path = path; });
+  task.format_path = path_value(arguments, Option::Format);
 }
 
 /// LF, CRLF, CR or the text itself; the longer first, because of several that match the first in
@@ -197,7 +209,7 @@ void take_output(Arguments const& arguments, Task& task) {
   } else if (arguments.has(Option::Oneline)) {
     task.output = Output::Line;
   }
-  with_value(arguments, Option::Save, [&](std::string const& path) { task.save_path = path; });
+  task.save_path = path_value(arguments, Option::Save);
   with_value(arguments, Option::Rows, [&](std::string const& word) {
     task.rows = count_value(Option::Rows, word, 0, most_rows);
   });

@@ -12,7 +12,7 @@ not 0. The commands of a transcript share an empty folder, in which examples/ is
 source tree. They may use
   text TEXT           prints the text, in which \\n, \\t, \\xHH and \\uHHHH are replaced
   members [NAME...]   see members.py
-  rows                the rows that detect shows, without what stands above them
+  rows                the rows that detect shows, without what stands around them
   terminal COMMAND    runs it on a terminal, where control characters show as ^[
   open_and_print FILE runs the example of that name
 """
@@ -38,7 +38,7 @@ COMMANDS = f"""
 set -o pipefail
 text() {{ printf %b "$1"; }}
 members() {{ {sys.executable} -S {HERE}/members.py "$@"; }}
-rows() {{ sed '1,/^$/d'; }}
+rows() {{ sed -n '/^$/,/^$/{{/./p}}'; }}
 terminal() {{ script -qec "$1" /dev/null < /dev/null | tr -d '\\r' | cat -v; }}
 """
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// A stranger's program that opens a file, finds out how it is laid out, saves that and reads it back,
-// and catches the error of a file that is not there.
+// A stranger's program that opens a file, finds out how it is laid out, saves that and reads it
+// back, and catches the error of a file that is not there.
 #include <cstdio>
 
 #include <text_import/analysis/analysis.hpp>
