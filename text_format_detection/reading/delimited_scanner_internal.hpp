@@ -115,15 +115,16 @@ class DelimitedScanner {
     if (is_opening_quote(pos)) {
       pos = skip_quoted(pos);
     }
+    std::u16string_view const text = text_;  // not read anew behind every call of the search
     for (;; ++pos) {
       pos = stops_.find(pos);
-      if (std::size_t const length = line_endings_.length_at(text_, pos)) {
+      if (std::size_t const length = line_endings_.length_at(text, pos)) {
         return {pos, 0, length};
       }
-      if (std::size_t const length = delimiters_.length_at(text_, pos)) {
+      if (std::size_t const length = delimiters_.length_at(text, pos)) {
         return {pos, length, 0};
       }
-      if (model::at_end(text_, pos)) {
+      if (model::at_end(text, pos)) {
         return {pos, 0, 0};
       }
     }
