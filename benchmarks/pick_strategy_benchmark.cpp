@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The whole decision, at several numbers of records, and the survey, which asks for several.
+// The whole decision, at several numbers of records, and the analysis, which asks for several.
 #include <memory>
 #include <string>
 #include <vector>
@@ -8,7 +8,7 @@
 #include "benchmarks/operation.hpp"
 #include "text_format_detection/detection/strategy_selector.hpp"
 #include "text_format_detection/model/options.hpp"
-#include "text_import/survey/survey.hpp"
+#include "text_import/analysis/analysis.hpp"
 
 namespace textio::benchmarks {
 
@@ -26,8 +26,12 @@ Prepare pick(std::size_t const records) {
   };
 }
 
-Work survey(Shape const& /*shape*/, std::u16string_view const text) {
-  return [text] { return textimport::survey_text(Field(text), {}).columns.size(); };
+Work analysis(Shape const& /*shape*/, std::u16string_view const text) {
+  return [text] {
+    textimport::TextSample sample;
+    sample.text = text;
+    return textimport::analyse(sample, {}).format.columns.size();
+  };
 }
 
 /// The same work over another shape of the same length.
@@ -47,7 +51,7 @@ std::span<Operation const> operations() {
       {.name = "pick_250", .prepare = pick(250)},
       {.name = "pick_1000", .prepare = pick(1000)},
       {.name = "pick_all", .prepare = pick(unknown_count)},
-      {.name = "survey_250", .prepare = survey},
+      {.name = "analysis_250", .prepare = analysis},
       {.name = "pick_250_candidates",
        .prepare = pick(250),
        .shapes = "forty_eight_candidates",

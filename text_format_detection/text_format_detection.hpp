@@ -20,6 +20,7 @@
 #include "text_format_detection/platform/type_analyzer_options.hpp"
 #include "text_format_detection/reading/fixed_stream.hpp"
 #include "text_format_detection/reading/read_records.hpp"
+#include "text_format_detection/reading/read_summary.hpp"
 #include "text_format_detection/strategies/generic_strategy.hpp"
 #include "text_format_detection/strategies/layout_strategies.hpp"
 #include "text_format_detection/strategies/strategy_valuation.hpp"

@@ -11,15 +11,9 @@
 #include "text_format_detection/model/field.hpp"
 #include "text_format_detection/model/field_array.hpp"
 #include "text_format_detection/model/options.hpp"
+#include "text_format_detection/reading/read_summary.hpp"
 
 namespace textio {
-
-/// What one run of a reading loop did.
-struct ReadSummary {
-  std::size_t units_consumed = 0;  ///< code units, line endings and comments included
-  std::size_t lines_scanned = 0;   ///< records and comment lines
-  std::size_t records_stored = 0;  ///< entries added to the field array
-};
 
 /// Reads records from the start of `text` and appends them to `fields`.
 ///

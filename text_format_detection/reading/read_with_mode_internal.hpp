@@ -9,7 +9,7 @@
 #include "text_format_detection/model/enums.hpp"
 #include "text_format_detection/model/field_array.hpp"
 #include "text_format_detection/model/options.hpp"
-#include "text_format_detection/reading/read_records.hpp"
+#include "text_format_detection/reading/read_summary.hpp"
 #include "text_format_detection/reading/reading_loop_internal.hpp"
 
 namespace textio::reading {

@@ -12,7 +12,7 @@
 #include "text_format_detection/model/errors.hpp"
 #include "text_format_detection/model/text_view_internal.hpp"
 #include "text_format_detection/reading/comment_matcher_internal.hpp"
-#include "text_format_detection/reading/read_records.hpp"
+#include "text_format_detection/reading/read_summary.hpp"
 #include "text_format_detection/reading/record_store_internal.hpp"
 
 namespace textio::reading {
