@@ -41,7 +41,9 @@ WORDS = """detect|--json|a.csv;explain|-d|\\t|--layout=delimited|f;--widths|4,6,
 --line-ending|CRLF|--line-ending|LF|--whitespace| |f;--delimiter|\\x1c|--layout|lines|f;--|--json
 --encoding|utf-8|--strict|-;generate|man;--exponent|eE|--decimal-digits|3|--leading-character|$|f
 --embedded-numbers|--keep-blanks|--rows|0|--width|40|--color|never|f;--delimter|,|f;-d;--json=5;--widths|;-h
---files0-from|-;--empty-lines|read|--consecutive|join|--leading|ignore|--trailing|error|f;-V"""
+--files0-from|-;--empty-lines|read|--consecutive|join|--leading|ignore|--trailing|error|f;-V
+help|detect;--oneline|--member|x|--exclude-delimiter|,|--comment|none|a.zip;--save|s|--format|f|--width|auto|a
+explain|--oneline|f;--decimal-mark|1|f;--save=|f;--delimiter|,|--exclude-delimiter|,|f"""
 
 
 def texts():
