@@ -75,7 +75,8 @@ void require_sound(DetectionReport const& report, Caller const& caller, Placed c
             "a rule leaves some, in order");
     left = survivors;
   }
-  require(std::ranges::is_sorted(report.untried, std::ranges::less_equal(),
+  require(std::ranges::is_sorted(textio::detection::untried_characters(sample.view(), report),
+                                 std::ranges::less_equal(),
                                  &textio::detection::UntriedCharacter::character),
           "a character that was not tried is told once");
   require(!report.winner || (left.size() == 1 && left.front() == *report.winner),

@@ -7,6 +7,7 @@
 #include "text_format_detection/detection/evaluate_strategy.hpp"
 #include "text_format_detection/detection/header_lines.hpp"
 #include "text_format_detection/detection/strategy_selector.hpp"
+#include "text_format_detection/detection/untried_characters.hpp"
 #include "text_format_detection/export.hpp"
 #include "text_format_detection/model/enums.hpp"
 #include "text_format_detection/model/errors.hpp"

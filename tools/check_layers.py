@@ -72,6 +72,7 @@ EXCEPTION = (f"{ENGINE}/strategies", f"{ENGINE}/detection/header_lines.hpp")
 
 # The engine's internal headers that the import library is built with, and why.
 SHARED_INTERNALS = {
+    f"{ENGINE}/model/unit_search_internal.hpp": "one vector search, compiled into both libraries",
     f"{ENGINE}/platform/ascii_internal.hpp": "what a digit is, without the locale",
     f"{ENGINE}/strategies/value_grammar_internal.hpp": "one grammar of values for both policies",
 }

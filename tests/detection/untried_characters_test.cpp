@@ -11,6 +11,7 @@
 #include "tests/support/table.hpp"
 #include "tests/support/text.hpp"
 #include "text_format_detection/detection/strategy_selector.hpp"
+#include "text_format_detection/detection/untried_characters.hpp"
 
 namespace {
 
@@ -38,10 +39,10 @@ std::string show(char32_t const character) {
 }
 
 /// The characters with their reasons, apart by blanks.
-std::string show_untried(DetectionReport const& report) {
+std::string show_untried(std::u16string_view const text, DetectionReport const& report) {
   constexpr std::array names{"decimal", "thousands", "never", "not-ascii", "outside"};
   std::string shown;
-  for (auto const& [character, why] : report.untried) {
+  for (auto const& [character, why] : textio::detection::untried_characters(text, report)) {
     shown += (shown.empty() ? "" : " ") + show(character) + ":" +
              names.at(static_cast<std::size_t>(why));
   }
@@ -51,17 +52,19 @@ std::string show_untried(DetectionReport const& report) {
 TEST(UntriedCharacters, AreToldWithTheirReasons) {
   support::for_each_row("detection/untried_characters.tsv", [](support::Row const& row) {
     auto const how = support::record_of<textio::parser::options>(row.with);
-    EXPECT_EQ(show_untried(decide(row.text(0), how, textio::unknown_count)), row.cells.at(1));
+    auto const text = row.text(0);
+    EXPECT_EQ(show_untried(text, decide(text, how, textio::unknown_count)), row.cells.at(1));
   });
 }
 
 TEST(UntriedCharacters, AreThoseOfTheWholeSample) {
-  EXPECT_EQ(show_untried(decide(u"a,b\nc,d\ne;f\n", {}, 2)), ";:outside");
+  std::u16string const text = u"a,b\nc,d\ne;f\n";
+  EXPECT_EQ(show_untried(text, decide(text, {}, 2)), ";:outside");
 }
 
 TEST(UntriedCharacters, MayBeHalfOfOne) {
   std::u16string const text{0xDE00, ',', 0xD83D, '\n', 'a', 0xD83D, 0xD83D, 0xDE00, ',', 0xD801};
-  EXPECT_EQ(show_untried(decide(text, {}, 2)),
+  EXPECT_EQ(show_untried(text, decide(text, {}, 2)),
             "\\uD801:not-ascii \\uD83D:not-ascii \\uDE00:not-ascii U+1F600:not-ascii");
 }
 
@@ -76,7 +79,7 @@ TEST(UntriedCharacters, AreToldOnceEach) {
       text += {lead, trail};
     }
   }
-  auto const untried = decide(text, {}, 1).untried;
+  auto const untried = textio::detection::untried_characters(text, decide(text, {}, 1));
   EXPECT_TRUE(std::ranges::is_sorted(untried, std::ranges::less_equal(),
                                      &textio::detection::UntriedCharacter::character));
   auto const is_beyond = [](auto const& entry) { return entry.character >= 0x80; };

@@ -68,21 +68,6 @@ struct RuleStep {
   std::vector<std::size_t> survivors;  ///< the candidates that it left
 };
 
-/// Why a character was not tried as a delimiter.
-enum class NotTried : std::uint8_t {
-  DecimalMark,     ///< it is the decimal separator of the options
-  ThousandsMark,   ///< it is the first code unit of their thousands separator
-  NeverDelimiter,  ///< a quote, bracket, sign and the like, of which none is ever tried
-  NotAscii,        ///< only ASCII characters are tried
-  OutsideMiddle,   ///< it stands nowhere in the lines that candidates are taken from, if in any
-};
-
-/// A character of the sample that was not tried.
-struct UntriedCharacter {
-  char32_t character = 0;  ///< a code point, or a surrogate that stands alone
-  NotTried why = NotTried::OutsideMiddle;
-};
-
 /// The record of one decision. Keeps every sampled strategy alive, and with it views into the
 /// sample.
 struct DetectionReport {
@@ -98,11 +83,6 @@ struct DetectionReport {
   Reason reason = Reason::NoRecords;
   /// The position of the answer in `candidates` when the outcome is Candidate.
   std::optional<std::size_t> winner;
-  /// The distinct characters of the sample, ascending, that no sampled strategy was delimited by:
-  /// of the whole sample, not only of the records that were read. ASCII letters and digits, line
-  /// feeds and carriage returns are left out. Where no candidates were made of characters (see
-  /// Reason), those that might have been are OutsideMiddle.
-  std::vector<UntriedCharacter> untried;
 };
 
 }  // namespace textio::detection

@@ -10,7 +10,6 @@
 #include "text_format_detection/detection/candidates_internal.hpp"
 #include "text_format_detection/detection/picker_rules/ranking_internal.hpp"
 #include "text_format_detection/detection/sampler_internal.hpp"
-#include "text_format_detection/detection/untried_characters_internal.hpp"
 #include "text_format_detection/strategies/layout_strategies.hpp"
 
 namespace textio::detection {
@@ -140,7 +139,6 @@ std::shared_ptr<GenericStrategy> StrategySelector::pick_strategy(Field const& sa
                                                                  DetectionReport& report) {
   DetectionReport notes;
   StrategyPtr strategy = Decision(*options_, *type_options_, sample, n, &notes).make();
-  notes.untried = untried_characters(sample.view(), *options_, notes.sampled);
   report = std::move(notes);
   return strategy;
 }

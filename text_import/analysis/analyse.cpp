@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "text_format_detection/model/field_array.hpp"
+#include "text_format_detection/model/unit_search_internal.hpp"
 #include "text_import/analysis/analysis.hpp"
 #include "text_import/analysis/checking/rule_check_internal.hpp"
 #include "text_import/analysis/describing/description_internal.hpp"
@@ -25,7 +26,8 @@ using analysis::Task;
 using analysis::Weighing;
 
 std::u16string_view text_of(TextSample const& sample) {
-  return sample.text.substr(0, sample.text.find(textio::end_mark));
+  std::u16string_view const end_mark(&textio::end_mark, 1);
+  return sample.text.substr(0, textio::model::UnitSearch(sample.text, end_mark).find(0));
 }
 
 class Analyst {

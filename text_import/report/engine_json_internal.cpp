@@ -2,6 +2,7 @@
 
 #include "text_import/report/engine_json_internal.hpp"
 
+#include "text_format_detection/detection/untried_characters.hpp"
 #include "text_import/analysis/engine_margin.hpp"
 #include "text_import/format/utf.hpp"
 #include "text_import/report/engine_words.hpp"
@@ -81,9 +82,9 @@ Json scored(GenericStrategy& strategy) {
   return object;
 }
 
-Json not_tried(DetectionReport const& report) {
+Json not_tried(std::u16string_view const sample, DetectionReport const& report) {
   Json array = Json::array();
-  for (auto const& [character, why] : report.untried) {
+  for (auto const& [character, why] : untried_characters(sample, report)) {
     std::u16string text;
     append_utf16(text, character);
     array.push_back({{"character", json_value(text)}, {"why", word_of(why)}});
@@ -124,10 +125,10 @@ Json engine_answer(DetectionReport const& report) {
   return object;
 }
 
-Json engine_story(DetectionReport const& report) {
+Json engine_story(std::u16string_view const sample, DetectionReport const& report) {
   EngineMargin const margin = engine_margin(report);
   return {{"line_reader", scored(*report.line_reader)},
-          {"not_tried", not_tried(report)},
+          {"not_tried", not_tried(sample, report)},
           {"sampled", sampled(report)},
           {"rules", rules(report)},
           {"winner", json_value(report.winner)},

@@ -7,6 +7,7 @@
 
 #include <fmt/format.h>
 
+#include "text_format_detection/detection/untried_characters.hpp"
 #include "text_import/analysis/engine_margin.hpp"
 #include "text_import/format/utf.hpp"
 #include "text_import/report/engine_rules_internal.hpp"
@@ -162,7 +163,8 @@ std::string rules_story(DetectionReport const& engine, std::size_t const width) 
 
 }  // namespace
 
-std::string engine_story(DetectionReport const& engine, ReportStyle const& style) {
+std::string engine_story(std::u16string_view const sample, DetectionReport const& engine,
+                         ReportStyle const& style) {
   std::string text = heading("The engine's own decision", style) + summary(engine, style.width);
   bool const dates = engine.reason == textio::detection::Reason::DateColumns;
   text += heading("First each line was read as one value", style);
@@ -175,7 +177,7 @@ std::string engine_story(DetectionReport const& engine, ReportStyle const& style
   text += heading("Characters in the middle lines of the sample", style);
   text += paragraph(engine.sampled.empty() ? "tried: none" : "tried: see the readings below",
                     style.width);
-  text += untried_text(engine.untried, style.width);
+  text += untried_text(untried_characters(sample, engine), style.width);
   if (!engine.sampled.empty()) {
     text += heading("Readings that were tried; irregular must be below 1", style);
     text += readings_table(sampled_rows(engine), style.width);

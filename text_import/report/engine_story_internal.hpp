@@ -4,15 +4,17 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "text_format_detection/detection/detection_report.hpp"
 #include "text_import/report/style.hpp"
 
 namespace textimport::reporting {
 
-/// The engine's answer, the characters and readings that it tried, and the rules that compared
+/// The engine's answer about the sample, the characters and readings that it tried, and the rules that compared
 /// them.
-[[nodiscard]] std::string engine_story(textio::detection::DetectionReport const& engine,
+[[nodiscard]] std::string engine_story(std::u16string_view sample,
+                                       textio::detection::DetectionReport const& engine,
                                        ReportStyle const& style);
 
 }  // namespace textimport::reporting

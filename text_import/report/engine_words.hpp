@@ -6,6 +6,7 @@
 #include <span>
 
 #include "text_format_detection/detection/detection_report.hpp"
+#include "text_format_detection/detection/untried_characters.hpp"
 #include "text_format_detection/model/enums.hpp"
 #include "text_import/export.hpp"
 #include "text_import/format/words.hpp"

@@ -37,7 +37,7 @@ std::string explanation(Analysis const& analysis, ReportSubject const& subject,
     text += reporting::weighing_story(analysis.evidence, style);
   }
   if (analysis.engine) {
-    text += reporting::engine_story(*analysis.engine, style);
+    text += reporting::engine_story(analysis.lines.text(), *analysis.engine, style);
   }
   return text;
 }

@@ -136,7 +136,7 @@ Json explanation_object(Analysis const& analysis) {
           {"rules", rules(evidence)},
           {"candidates", candidates(evidence)},
           {"winner", json_value(evidence.winner)},
-          {"engine", analysis.engine ? engine_story(*analysis.engine) : Json()}};
+          {"engine", analysis.engine ? engine_story(analysis.lines.text(), *analysis.engine) : Json()}};
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "text_format_detection/detection/detection_report.hpp"
+#include "text_format_detection/detection/untried_characters.hpp"
 
 namespace textimport::reporting {
 

@@ -206,7 +206,7 @@ class Describer {
   void describe_rows(Reading const& r) {
     HeaderRows const rows = rows_of(r, given_);
     auto around = look_around(r, rows, lines_);
-    if (r.layout == Layout::Delimited && lines_.hold(u' ')) {
+    if (r.layout == Layout::Delimited && !lines_.held_of(u" ").empty()) {
       format().layout.has_blanks_around_delimiters = has_blanks_around(r, rows);
     }
     set_columns(describe_columns(r, rows, given_columns()));

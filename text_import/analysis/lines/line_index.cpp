@@ -2,16 +2,23 @@
 #include "text_import/analysis/lines/line_index.hpp"
 
 #include <algorithm>
+#include <cstdint>
+
+#include "text_format_detection/model/unit_search_internal.hpp"
 
 namespace textimport {
 
 namespace {
 
+using textio::model::UnitSearch;
+
 /// The first characters of the line endings: where a line may end.
 std::u16string first_units(std::vector<std::u16string> const& line_endings) {
   std::u16string units;
   for (std::u16string const& ending : line_endings) {
-    units += ending.substr(0, 1);
+    if (!ending.empty() && units.find(ending.front()) == std::u16string::npos) {
+      units += ending.front();
+    }
   }
   return units;
 }
@@ -25,29 +32,34 @@ std::size_t ending_length(std::u16string_view const text,
   return found == line_endings.end() ? 0 : found->size();
 }
 
+/// Blocks of a fixed length are what a compiler turns into instructions that take many units.
+bool consists_of_ascii(std::u16string_view text) {
+  constexpr std::size_t block = 256;
+  constexpr unsigned behind_ascii = 0x80;
+  unsigned all = 0;
+  for (; text.size() >= block; text.remove_prefix(block)) {
+    std::uint16_t bits = 0;
+    for (std::size_t i = 0; i < block; ++i) {
+      bits = static_cast<std::uint16_t>(bits | text[i]);
+    }
+    all |= bits;
+  }
+  for (char16_t const c : text) {
+    all |= c;
+  }
+  return all < behind_ascii;
+}
+
 }  // namespace
 
 LineIndex::LineIndex(std::u16string_view const text,
-                           std::vector<std::u16string> const& line_endings)
-    : text_(text) {
-  for (char16_t const c : text) {
-    if (c < held_.size()) {
-      held_[c] = true;
-    } else {
-      is_ascii_ = false;
-    }
-  }
-  std::u16string const firsts = first_units(line_endings);
-  char16_t const highest = firsts.empty() ? u'\0' : std::ranges::max(firsts);
-  auto const may_end_line = [&](char16_t const c) {
-    return c <= highest && firsts.find(c) != std::u16string::npos;
-  };
+                     std::vector<std::u16string> const& line_endings)
+    : text_(text), is_ascii_(consists_of_ascii(text)) {
+  UnitSearch search(text, first_units(line_endings));
   std::size_t start = 0;
   std::size_t pos = 0;
   while (start < text.size()) {
-    while (pos < text.size() && !may_end_line(text[pos])) {
-      ++pos;
-    }
+    pos = search.find(pos);
     std::size_t const length = ending_length(text.substr(pos), line_endings);
     if (length == 0 && pos < text.size()) {
       ++pos;
@@ -58,6 +70,20 @@ LineIndex::LineIndex(std::u16string_view const text,
     pos += length;
     start = pos;
   }
+}
+
+std::u16string LineIndex::held_of(std::u16string_view const wanted) const {
+  std::u16string left(wanted);
+  std::u16string held;
+  for (std::size_t pos = 0; !left.empty();) {
+    pos = UnitSearch(text_, left).find(pos);
+    if (pos == text_.size()) {
+      break;
+    }
+    held += text_[pos];
+    std::erase(left, text_[pos]);
+  }
+  return held;
 }
 
 std::size_t LineIndex::line_at(std::size_t const offset) const noexcept {

@@ -4,7 +4,6 @@
 // position belongs to. Made once for a text and handed on: nobody else splits lines.
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -15,9 +14,9 @@
 
 namespace textimport {
 
-/// The lines of a text as an editor numbers them, counted from 0, whatever quotes and comments they
-/// are part of. A line ending behind the last line starts no further one. Refers to the text, which
-/// must outlive it. Positions count code units from the text's start.
+/// The lines of a text, which holds no U+FFFF, as an editor numbers them, counted from 0, whatever
+/// quotes and comments they are part of. A line ending behind the last line starts no further one.
+/// Refers to the text, which must outlive it. Positions count code units from the text's start.
 class TEXT_IMPORT_API LineIndex {
  public:
   /// An index of no text.
@@ -49,8 +48,8 @@ class TEXT_IMPORT_API LineIndex {
   /// Whether every code unit of the text is an ASCII character.
   [[nodiscard]] bool is_ascii() const noexcept { return is_ascii_; }
 
-  /// Whether an ASCII character stands anywhere in the text.
-  [[nodiscard]] bool hold(char16_t const character) const noexcept { return held_[character]; }
+  /// Those of some characters that stand anywhere in the text, in the order in which they first do.
+  [[nodiscard]] std::u16string held_of(std::u16string_view wanted) const;
 
   /// The line that holds the offset or whose ending does. The text must have a line.
   [[nodiscard]] std::size_t line_at(std::size_t offset) const noexcept;
@@ -62,7 +61,6 @@ class TEXT_IMPORT_API LineIndex {
   std::u16string_view text_;
   std::vector<std::size_t> starts_;
   std::vector<std::size_t> ends_;
-  std::array<bool, 128> held_{};
   bool is_ascii_ = true;
 };
 

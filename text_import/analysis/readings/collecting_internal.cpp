@@ -44,7 +44,8 @@ bool is_columnar(ColumnProfile const& profile) {
 /// Fills the list of one analysis.
 class ReadingCollector {
  public:
-  ReadingCollector(LineIndex const& lines, Task const& task) : lines_(lines), task_(task) {}
+  ReadingCollector(LineIndex const& lines, Task const& task)
+      : lines_(lines), task_(task), held_(lines.held_of(common_delimiters)) {}
 
   /// The engine's decision is kept for the first hypothesis that it is asked about.
   void ask_engine(AssumedOptions const& assumed) {
@@ -56,7 +57,7 @@ class ReadingCollector {
       add(sampled.strategy);
     }
     if (!task_.request.engine_decides) {
-      for (std::u16string const& delimiter : unguessed_delimiters(lines_, report)) {
+      for (std::u16string const& delimiter : unguessed_delimiters(lines_, held_, report)) {
         evaluate<DelimitedStrategy>(assumed, delimiter_list{delimiter});
       }
     }
@@ -150,6 +151,7 @@ class ReadingCollector {
 
   LineIndex const& lines_;
   Task const& task_;
+  std::u16string held_;  // the usual delimiters that stand in the text
   std::size_t hypothesis_ = 0;
   CollectedReadings found_;
 };

@@ -103,10 +103,11 @@ std::u16string doubled_signs(LineIndex const& lines, view const signs) {
 }  // namespace
 
 std::vector<std::u16string> unguessed_delimiters(LineIndex const& lines,
+                                                 std::u16string_view const held,
                                                  textio::detection::DetectionReport const& report) {
   std::vector<std::u16string> delimiters;
   for (char16_t const c : common_delimiters) {
-    if (!was_sampled(report, c) && lines.hold(c)) {
+    if (held.find(c) != view::npos && !was_sampled(report, c)) {
       delimiters.emplace_back(1, c);
     }
   }

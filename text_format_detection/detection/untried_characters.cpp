@@ -3,7 +3,7 @@
 // Which characters stand in the text, and why each was left aside. Texts may be long and hold as
 // many characters as there are: each code unit is looked at once and marked in a table, and only
 // where surrogates were met are they put together in a second pass.
-#include "text_format_detection/detection/untried_characters_internal.hpp"
+#include "text_format_detection/detection/untried_characters.hpp"
 
 #include <algorithm>
 #include <array>
@@ -110,11 +110,12 @@ bool is_unremarkable(char32_t const c) {
 
 }  // namespace
 
-std::vector<UntriedCharacter> untried_characters(std::u16string_view text,
-                                                 parser::options const& options,
-                                                 std::vector<SampledStrategy> const& sampled) {
-  text = text.substr(0, model::UnitSearch(text, std::u16string_view(&end_mark, 1)).find(0));
-  auto const tried = tried_characters(sampled);
+std::vector<UntriedCharacter> untried_characters(std::u16string_view const sample,
+                                                 DetectionReport const& report) {
+  auto const text =
+      sample.substr(0, model::UnitSearch(sample, std::u16string_view(&end_mark, 1)).find(0));
+  auto const tried = tried_characters(report.sampled);
+  parser::options const& options = report.line_reader->options();
   std::vector<UntriedCharacter> untried;
   for (char32_t const c : distinct_characters(text)) {
     if (!is_unremarkable(c) && !(c < num_ascii && tried[c])) {
