@@ -28,7 +28,7 @@ std::size_t ending_length(std::u16string_view const text,
 }  // namespace
 
 LineIndex::LineIndex(std::u16string_view const text,
-                           std::vector<std::u16string> const& line_endings)
+                     std::vector<std::u16string> const& line_endings)
     : text_(text) {
   for (char16_t const c : text) {
     if (c < held_.size()) {
