@@ -7,7 +7,7 @@
 // null: the sample ends before them), "num_columns", "names" (null: none), "types",
 // "decimal_mark", "escape", "encoding", "roles" (of lines that hold no data, by their numbers),
 // "decided", "confidence", and "seconds" for opening, decoding and analysing, the median of RUNS (1
-// unless given). tools/accuracy runs it.
+// unless given). tools/accuracy and tools/compare run it.
 #include <algorithm>
 #include <charconv>
 #include <chrono>
