@@ -7,7 +7,7 @@
 // null: the sample ends before them), "num_columns", "names" (null: none), "types",
 // "decimal_mark", "escape", "encoding", "roles" (of lines that hold no data, by their numbers),
 // "decided", "confidence", and "seconds" for opening, decoding and analysing, the median of RUNS (1
-// unless given). tools/accuracy runs it.
+// unless given). tools/accuracy and tools/compare run it.
 #include <algorithm>
 #include <charconv>
 #include <chrono>
@@ -100,21 +100,22 @@ ordered_json answer_about(std::string const& path) {
   Format const& format = found.format;
   auto const& end = format.region.end_line;
   bool const is_delimited = format.layout.layout == Layout::Delimited;
-  return {{"layout", layout_word(format.layout.layout)},
-          {"delimiter", is_delimited ? ordered_json(textimport::to_utf8(format.layout.delimiters[0]))
-                                     : ordered_json()},
-          {"widths", format.layout.widths},
-          {"header_lines", format.region.first_line},
-          {"data_ends_at", end ? ordered_json(*end) : ordered_json()},
-          {"num_columns", std::max<std::size_t>(format.columns.size(), 1)},
-          {"names", names_of(format)},
-          {"types", types_of(format)},
-          {"decimal_mark", decimal_mark_of(format)},
-          {"escape", mark(format.quoting.escape)},
-          {"encoding", format.source.encoding},
-          {"roles", roles_of(found)},
-          {"decided", found.decided},
-          {"confidence", found.certainty.layout}};
+  return {
+      {"layout", layout_word(format.layout.layout)},
+      {"delimiter", is_delimited ? ordered_json(textimport::to_utf8(format.layout.delimiters[0]))
+                                 : ordered_json()},
+      {"widths", format.layout.widths},
+      {"header_lines", format.region.first_line},
+      {"data_ends_at", end ? ordered_json(*end) : ordered_json()},
+      {"num_columns", std::max<std::size_t>(format.columns.size(), 1)},
+      {"names", names_of(format)},
+      {"types", types_of(format)},
+      {"decimal_mark", decimal_mark_of(format)},
+      {"escape", mark(format.quoting.escape)},
+      {"encoding", format.source.encoding},
+      {"roles", roles_of(found)},
+      {"decided", found.decided},
+      {"confidence", found.certainty.layout}};
 }
 
 ordered_json answer(std::string const& path, std::size_t const runs) {

@@ -99,8 +99,7 @@ void require_sound_evidence(Analysis const& found) {
   require(evidence.winner.value_or(0) <= evidence.candidates.size(), "the winner exists");
   require(!evidence.runner_up || evidence.runner_up->candidate < evidence.candidates.size(),
           "the runner-up exists");
-  require(std::ranges::is_sorted(evidence.lines, {}, &textimport::NotedLine::line),
-          "lines ascend");
+  require(std::ranges::is_sorted(evidence.lines, {}, &textimport::NotedLine::line), "lines ascend");
   require(evidence.lines.empty() || evidence.lines.back().line < evidence.lines_seen,
           "lines exist");
   require(evidence.columns.size() == found.format.columns.size(), "columns are counted");
@@ -125,8 +124,8 @@ void require_sound(Analysis const& found, std::u16string_view const text) {
   if (found.violation) {
     require(found.violation->position.offset <= text.size(), "a rule is broken within the text");
   }
-  static_cast<void>(textimport::read_rows(
-      found.format, found.lines.between(region.first_line, lines), 5));
+  static_cast<void>(
+      textimport::read_rows(found.format, found.lines.between(region.first_line, lines), 5));
 }
 
 TextSample sample_of(Placed const& text, bool const goes_on, char const* const encoding) {

@@ -78,7 +78,8 @@ class Analyst {
       auto const found = std::ranges::find(readings(), decision, &Reading::strategy);
       weighed.winner = static_cast<std::size_t>(found - readings().begin());
       if (found == readings().end()) {
-        readings().push_back(analysis::measure_records(decision, found_.lines, task_.request.values));
+        readings().push_back(
+            analysis::measure_records(decision, found_.lines, task_.request.values));
       }
       measure_values(readings()[*weighed.winner]);
     }

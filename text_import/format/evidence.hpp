@@ -17,8 +17,8 @@ namespace textimport {
 
 /// What is assumed of a text before it is read.
 struct Hypothesis {
-  bool quotes_are_ordinary = false;  ///< quotes belong to the values
-  bool apostrophes_quote = false;    ///< apostrophes are the quotes
+  bool quotes_are_ordinary = false;             ///< quotes belong to the values
+  bool apostrophes_quote = false;               ///< apostrophes are the quotes
   std::vector<std::u16string> comment_markers;  ///< guessed ones, as CommentFormat::markers
 
   friend bool operator==(Hypothesis const&, Hypothesis const&) = default;
@@ -26,8 +26,8 @@ struct Hypothesis {
 
 /// A rule at which readings fall. Both texts are constants.
 struct RuleText {
-  std::string_view name;     ///< "enough_text"
-  std::string_view meaning;  ///< what it demands, and which number it looks at
+  std::string_view name;          ///< "enough_text"
+  std::string_view meaning;       ///< what it demands, and which number it looks at
   bool measure_is_share = false;  ///< that number is a share, 0 to 1
 };
 

@@ -99,8 +99,8 @@ TEST(analysis, keeps_what_is_given) {
     EXPECT_EQ(row.cells[2], show_layout(found.format.layout));
     EXPECT_EQ(row.cells[3], std::to_string(found.format.columns.size()) + " columns, lines " +
                                 show_lines(found.format.region));
-    EXPECT_EQ(row.cells[4], (found.decided ? "" : "not decided: ") +
-                                std::string(word_of(found.reason)));
+    EXPECT_EQ(row.cells[4],
+              (found.decided ? "" : "not decided: ") + std::string(word_of(found.reason)));
   });
 }
 
@@ -126,8 +126,8 @@ TEST(analysis, finds_rules_that_fit_the_next_file) {
       names += "|" + support::show(column.name);
     }
     EXPECT_EQ(row.cells[5], names);
-    EXPECT_EQ(row.cells[6], (again.decided ? "" : "not decided: ") +
-                                std::string(word_of(again.reason)));
+    EXPECT_EQ(row.cells[6],
+              (again.decided ? "" : "not decided: ") + std::string(word_of(again.reason)));
     EXPECT_EQ(Origin::Given, again.format.layout.origin);
     EXPECT_EQ(again.format.columns.size() == found.format.columns.size(),
               again.reason != Reason::ColumnsDiffer);
@@ -202,11 +202,12 @@ TEST(line_index, splits_at_the_first_ending_that_matches) {
     std::vector<std::u16string> endings;
     std::string lines;
   };
+
   std::vector<std::u16string> const usual{u"\r\n", u"\n", u"\r"};
-  for (Case const& c : {Case{u"", usual, ""}, Case{u"\n", usual, "0:"}, Case{u"a", usual, "0:a"},
-                        Case{u"a\r\nb\rc\n\nd", usual, "0:a 3:b 5:c 7: 8:d"},
-                        Case{u"a;b;;c", {u";;", u";"}, "0:a 2:b 5:c"},
-                        Case{u"a\nb", {}, "0:a\\nb"}}) {
+  for (Case const& c :
+       {Case{u"", usual, ""}, Case{u"\n", usual, "0:"}, Case{u"a", usual, "0:a"},
+        Case{u"a\r\nb\rc\n\nd", usual, "0:a 3:b 5:c 7: 8:d"},
+        Case{u"a;b;;c", {u";;", u";"}, "0:a 2:b 5:c"}, Case{u"a\nb", {}, "0:a\\nb"}}) {
     LineIndex const lines(c.text, c.endings);
     std::string shown;
     for (std::size_t i = 0; i < lines.count(); ++i) {

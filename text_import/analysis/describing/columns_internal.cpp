@@ -5,8 +5,8 @@
 #include <array>
 #include <string>
 
-#include "text_import/analysis/values/date_order_internal.hpp"
 #include "text_import/analysis/describing/text_extent_internal.hpp"
+#include "text_import/analysis/values/date_order_internal.hpp"
 #include "text_import/analysis/values/value_shape_internal.hpp"
 
 namespace textimport::analysis {
@@ -158,10 +158,9 @@ class ColumnSummary {
     if (counts_.values == 0) {
       return;
     }
-    constexpr std::array narrow{ValueType::Integer,     ValueType::Real,    ValueType::Complex,
-                                ValueType::Boolean,     ValueType::Date,    ValueType::DateTime,
-                                ValueType::Duration,    ValueType::Hexadecimal,
-                                ValueType::Binary};
+    constexpr std::array narrow{ValueType::Integer,  ValueType::Real,        ValueType::Complex,
+                                ValueType::Boolean,  ValueType::Date,        ValueType::DateTime,
+                                ValueType::Duration, ValueType::Hexadecimal, ValueType::Binary};
     auto const nearly_all = [&](ValueType const type) {
       return count_fitting(type) * 20 >= counts_.values * 19;
     };

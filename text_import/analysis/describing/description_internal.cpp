@@ -116,11 +116,10 @@ class Describer {
     set_comments(task_.parsing.comment_style, false);
     std::size_t const first = first_of_list();
     std::size_t const end = given_.end.value_or(without_blank_end(first));
-    auto column =
-        describe_lines(lines_, first, end, ValueGrammar(u'"', values()), given_columns());
+    auto column = describe_lines(lines_, first, end, ValueGrammar(u'"', values()), given_columns());
     format().region.first_line = first;
-    bool const may_have_names = first > 0 && (given_.name_lines ? !given_.name_lines->empty()
-                                                                : !given_.first.has_value());
+    bool const may_have_names =
+        first > 0 && (given_.name_lines ? !given_.name_lines->empty() : !given_.first.has_value());
     std::vector<std::u16string> names;
     if (may_have_names) {
       names.emplace_back(unquoted(lines_[first - 1], format().quoting.quote));
@@ -241,8 +240,7 @@ class Describer {
     }
     for (std::size_t line = first; line < end; ++line) {
       std::size_t const filled = lines_[line].find_last_not_of(u" \t") + 1;
-      said_.units_left_over =
-          std::max(said_.units_left_over, filled - std::min(filled, units));
+      said_.units_left_over = std::max(said_.units_left_over, filled - std::min(filled, units));
     }
   }
 
@@ -259,8 +257,8 @@ class Describer {
     MarkFormat& marks = format().marks;
     char16_t const found = common_decimal_mark(format().columns);
     marks.decimal_mark = values.decimal_mark.value_or(found == 0 ? u'.' : found);
-    marks.decimal_mark_origin = given_or(values.decimal_mark.has_value(),
-                                         found == 0 ? Origin::Default : Origin::Found);
+    marks.decimal_mark_origin =
+        given_or(values.decimal_mark.has_value(), found == 0 ? Origin::Default : Origin::Found);
     marks.thousands_mark = values.thousands_mark.value_or(u'\0');
     marks.thousands_mark_origin = given_or(values.thousands_mark.has_value(), Origin::Default);
     marks.missing_words = values.missing_words.value_or(marks.missing_words);

@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "text_import/analysis/describing/header_rows_internal.hpp"
-#include "text_import/analysis/readings/reading_internal.hpp"
 #include "text_import/analysis/lines/line_index.hpp"
+#include "text_import/analysis/readings/reading_internal.hpp"
 #include "text_import/format/evidence.hpp"
 
 namespace textimport::analysis {
@@ -20,7 +20,7 @@ struct Surroundings {
   std::size_t data_starts_at = 0;
   std::size_t data_ends_at = 0;
   std::vector<NotedLine> lines;
-  std::vector<std::u16string> names;  ///< as many as there are columns, or none
+  std::vector<std::u16string> names;    ///< as many as there are columns, or none
   std::vector<std::size_t> name_lines;  ///< where they stand; empty without names
 };
 

@@ -56,8 +56,8 @@ auto measure_up_to(view const line, std::size_t const position, Count const coun
 
 template <class Count>
 std::optional<Extent> agreed_extent(LineIndex const& lines, std::size_t const first,
-                                           std::size_t const end, std::size_t const from,
-                                           std::size_t const behind, Count const count) {
+                                    std::size_t const end, std::size_t const from,
+                                    std::size_t const behind, Count const count) {
   if (lines.is_ascii()) {
     auto const width = count(view(u" "));
     return first < end && width ? std::optional(Extent{from * *width, behind * *width})
@@ -70,7 +70,7 @@ std::optional<Extent> agreed_extent(LineIndex const& lines, std::size_t const fi
       return std::nullopt;
     }
     Extent const here{*measure_up_to(lines[i], from, count),
-                             *measure_up_to(lines[i], behind, count)};
+                      *measure_up_to(lines[i], behind, count)};
     if (agreed && (agreed->begin != here.begin || agreed->end != here.end)) {
       return std::nullopt;
     }
@@ -85,18 +85,16 @@ std::size_t count_characters(view const text) noexcept {
   return text.size() - static_cast<std::size_t>(std::ranges::count_if(text, is_second_half));
 }
 
-std::optional<Extent> extent_in_characters(LineIndex const& lines,
-                                                  std::size_t const first, std::size_t const end,
-                                                  std::size_t const from,
-                                                  std::size_t const behind) {
+std::optional<Extent> extent_in_characters(LineIndex const& lines, std::size_t const first,
+                                           std::size_t const end, std::size_t const from,
+                                           std::size_t const behind) {
   return agreed_extent(lines, first, end, from, behind,
                        [](view const text) { return std::optional(count_characters(text)); });
 }
 
 std::optional<Extent> extent_in_bytes(LineIndex const& lines, std::size_t const first,
-                                             std::size_t const end, std::size_t const from,
-                                             std::size_t const behind,
-                                             std::string_view const encoding) {
+                                      std::size_t const end, std::size_t const from,
+                                      std::size_t const behind, std::string_view const encoding) {
   return agreed_extent(lines, first, end, from, behind,
                        [&](view const text) { return count_bytes(text, encoding); });
 }

@@ -44,8 +44,8 @@ bool is_columnar(ColumnProfile const& profile) {
 /// Fills the list of one analysis.
 class ReadingCollector {
  public:
-  ReadingCollector(LineIndex const& lines, Task const& task)
-      : lines_(lines), task_(task), held_(lines.held_of(common_delimiters)) {}
+  ReadingCollector(LineIndex const& lines, Task const& task, CollectedReadings& found)
+      : lines_(lines), task_(task), found_(found), held_(lines.held_of(common_delimiters)) {}
 
   /// The engine's decision is kept for the first hypothesis that it is asked about.
   void ask_engine(AssumedOptions const& assumed) {
@@ -112,8 +112,6 @@ class ReadingCollector {
 
   void next_hypothesis() { ++hypothesis_; }
 
-  [[nodiscard]] CollectedReadings take() { return std::move(found_); }
-
   /// Whether a usual delimiter explains nearly all of the text.
   [[nodiscard]] bool is_explained() const {
     return std::ranges::any_of(found_.readings, [](Reading const& r) {
@@ -151,9 +149,9 @@ class ReadingCollector {
 
   LineIndex const& lines_;
   Task const& task_;
+  CollectedReadings& found_;
   std::u16string held_;  // the usual delimiters that stand in the text
   std::size_t hypothesis_ = 0;
-  CollectedReadings found_;
 };
 
 }  // namespace
@@ -161,10 +159,11 @@ class ReadingCollector {
 CollectedReadings collect_readings(LineIndex const& lines,
                                    std::vector<AssumedOptions> const& hypotheses,
                                    Task const& task) {
-  ReadingCollector collector(lines, task);
+  CollectedReadings found;
   if (task.layout == Layout::Lines) {
-    return collector.take();
+    return found;
   }
+  ReadingCollector collector(lines, task, found);
   for (AssumedOptions const& assumed : hypotheses) {
     task.layout ? collector.read_as_given(assumed) : collector.ask_engine(assumed);
     collector.next_hypothesis();
@@ -174,7 +173,7 @@ CollectedReadings collect_readings(LineIndex const& lines,
   if (is_fixed || (is_open && !collector.is_explained())) {
     collector.read_fixed_width(is_fixed);
   }
-  return collector.take();
+  return found;
 }
 
 std::shared_ptr<textio::GenericStrategy> read_lines(LineIndex const& lines, Task const& task) {

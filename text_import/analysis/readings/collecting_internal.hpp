@@ -27,9 +27,9 @@ struct CollectedReadings {
   bool shows_fixed_width = false;
 };
 
-/// The readings of the sample. A given layout or delimiter leaves only the readings that keep to it,
-/// at least one for each hypothesis; excluded delimiters have none. The engine decides once for each
-/// hypothesis, or not at all.
+/// The readings of the sample. A given layout or delimiter leaves only the readings that keep to
+/// it, at least one for each hypothesis; excluded delimiters have none. The engine decides once for
+/// each hypothesis, or not at all.
 [[nodiscard]] CollectedReadings collect_readings(LineIndex const& lines,
                                                  std::vector<AssumedOptions> const& hypotheses,
                                                  Task const& task);

@@ -209,9 +209,8 @@ class ValueCount {
 
 }  // namespace
 
-Reading measure_records(std::shared_ptr<textio::GenericStrategy> strategy,
-                        LineIndex const& lines, ValueRequest const& values,
-                        ColumnProfile const* const profile) {
+Reading measure_records(std::shared_ptr<textio::GenericStrategy> strategy, LineIndex const& lines,
+                        ValueRequest const& values, ColumnProfile const* const profile) {
   Reading r;
   r.strategy = std::move(strategy);
   r.layout = layout_of(r.strategy->mode());

@@ -11,9 +11,9 @@
 #include <vector>
 
 #include "text_format_detection/strategies/generic_strategy.hpp"
+#include "text_import/analysis/lines/line_index.hpp"
 #include "text_import/analysis/readings/column_profile_internal.hpp"
 #include "text_import/analysis/values/value_grammar_internal.hpp"
-#include "text_import/analysis/lines/line_index.hpp"
 #include "text_import/format/evidence.hpp"
 
 namespace textimport::analysis {

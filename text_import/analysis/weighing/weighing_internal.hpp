@@ -18,7 +18,7 @@ struct ReadingFate {
 };
 
 struct Weighing {
-  std::vector<ReadingFate> fates;    ///< one for each reading
+  std::vector<ReadingFate> fates;     ///< one for each reading
   std::optional<std::size_t> winner;  ///< none when each line is a value
 };
 

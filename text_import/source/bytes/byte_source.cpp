@@ -27,23 +27,23 @@ std::string system_message(int const number) {
     case ENOENT:
     case ENOTDIR:
       throw ImportError(ImportErrorKind::FileNotFound, path,
-                         "there is no such file; check the path")
+                        "there is no such file; check the path")
           .with_system_error(number);
     case EACCES:
     case EPERM:
       throw ImportError(ImportErrorKind::NoPermission, path,
-                         "no permission to read the file; check its access rights")
+                        "no permission to read the file; check its access rights")
           .with_system_error(number);
     default:
       throw ImportError(ImportErrorKind::OpenFailed, path,
-                         "the file could not be opened (" + system_message(number) + ")")
+                        "the file could not be opened (" + system_message(number) + ")")
           .with_system_error(number);
   }
 }
 
 [[noreturn]] void throw_is_directory(std::string const& path) {
   throw ImportError(ImportErrorKind::IsDirectory, path,
-                     "this is a directory; name a file inside it")
+                    "this is a directory; name a file inside it")
       .with_system_error(EISDIR);
 }
 
@@ -86,8 +86,8 @@ class DescriptorSource : public ByteSource {
     }
     if (failure_ != 0) {
       throw ImportError(ImportErrorKind::ReadFailed, path_,
-                         "reading failed at byte " + std::to_string(offset_) + " of the file (" +
-                             system_message(failure_) + "); copy the file and try again")
+                        "reading failed at byte " + std::to_string(offset_) + " of the file (" +
+                            system_message(failure_) + "); copy the file and try again")
           .at_byte(offset_)
           .with_system_error(failure_);
     }

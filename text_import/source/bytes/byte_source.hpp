@@ -41,7 +41,7 @@ using ReadFunction = std::function<ssize_t(int descriptor, void* room, std::size
 /// Throws ImportError: FileNotFound, NoPermission, IsDirectory, OpenFailed; its read() throws
 /// ReadFailed with errno and the byte offset in the file.
 [[nodiscard]] TEXT_IMPORT_API std::unique_ptr<ByteSource> open_bytes(std::string const& path,
-                                                                      ReadFunction read = {});
+                                                                     ReadFunction read = {});
 
 /// A source over memory that the caller keeps alive.
 [[nodiscard]] TEXT_IMPORT_API std::unique_ptr<ByteSource> memory_bytes(std::string_view bytes);

@@ -11,9 +11,9 @@ namespace {
 [[noreturn]] void throw_not_loaded(std::string const& path) {
   char const* const reason = ::dlerror();
   throw ImportError(ImportErrorKind::UnsupportedArchive, path,
-                     "libarchive, which unpacks such data, could not be loaded (" +
-                         std::string(reason == nullptr ? "no reason is known" : reason) +
-                         "); install it, or unpack the file first");
+                    "libarchive, which unpacks such data, could not be loaded (" +
+                        std::string(reason == nullptr ? "no reason is known" : reason) +
+                        "); install it, or unpack the file first");
 }
 
 template <class Function>

@@ -80,7 +80,7 @@ std::string ArchiveSource::MemberNames::list() const {
 }
 
 ArchiveSource::ArchiveSource(std::unique_ptr<ByteSource> raw, std::string const& path,
-                               std::string const& format, OpenOptions const& options)
+                             std::string const& format, OpenOptions const& options)
     : DecompressingSource(std::move(raw), path, format, options),
       library_(the_archive_library(path)),
       handle_(library_.archive_read_new(), library_.archive_read_free),
@@ -125,7 +125,7 @@ void ArchiveSource::set_up(std::string const& format) {
 }
 
 long ArchiveSource::deliver_block(archive* const handle, void* const self,
-                                   void const** const block) {
+                                  void const** const block) {
   auto& source = *static_cast<ArchiveSource*>(self);
   try {
     std::string_view const bytes = source.next_block();
@@ -173,10 +173,10 @@ void ArchiveSource::find_member(std::string const& wanted) {
     }
   }
   if (is_zip_) {
-    throw ImportError(
-        ImportErrorKind::MemberNotFound, path(),
-        names.count == 0 ? "the zip archive holds no file"
-                         : "the zip archive has no member " + wanted + "; it has " + names.list());
+    throw ImportError(ImportErrorKind::MemberNotFound, path(),
+                      names.count == 0
+                          ? "the zip archive holds no file"
+                          : "the zip archive has no member " + wanted + "; it has " + names.list());
   }
 }
 
@@ -207,9 +207,9 @@ void ArchiveSource::expect_no_further_member() {
   } while (next_member(name));
   if (names.count > 1) {
     throw ImportError(ImportErrorKind::SeveralMembers, path(),
-                       "the zip archive has " + std::to_string(names.count) + " members (" +
-                           names.list() + "); name one of them behind the path, as in " + path() +
-                           ":" + names.first.front());
+                      "the zip archive has " + std::to_string(names.count) + " members (" +
+                          names.list() + "); name one of them behind the path, as in " + path() +
+                          ":" + names.first.front());
   }
 }
 

@@ -18,8 +18,8 @@ class ArchiveSource : public DecompressingSource {
  public:
   /// `format` is a word of compression_of(). Of a zip archive, the wanted member is searched here,
   /// with the errors of decompress().
-  ArchiveSource(std::unique_ptr<ByteSource> raw, std::string const& path,
-                 std::string const& format, OpenOptions const& options);
+  ArchiveSource(std::unique_ptr<ByteSource> raw, std::string const& path, std::string const& format,
+                OpenOptions const& options);
 
   ArchiveSource(ArchiveSource const&) = delete;
   ArchiveSource(ArchiveSource&&) = delete;

@@ -15,7 +15,7 @@ constexpr std::size_t compressed_block_bytes = std::size_t{1} << 16U;
 }  // namespace
 
 DecompressingSource::DecompressingSource(std::unique_ptr<ByteSource> raw, std::string path,
-                                           std::string format, OpenOptions const& options)
+                                         std::string format, OpenOptions const& options)
     : raw_(std::move(raw)),
       path_(std::move(path)),
       format_(std::move(format)),
@@ -58,7 +58,7 @@ void DecompressingSource::check_ratio() const {
 }
 
 ImportError DecompressingSource::error(ImportErrorKind const kind,
-                                         std::string const& message) const {
+                                       std::string const& message) const {
   return ImportError(kind, path_, message).at_byte(produced_bytes_);
 }
 

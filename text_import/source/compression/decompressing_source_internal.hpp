@@ -23,7 +23,7 @@ class DecompressingSource : public ByteSource {
 
  protected:
   DecompressingSource(std::unique_ptr<ByteSource> raw, std::string path, std::string format,
-                       OpenOptions const& options);
+                      OpenOptions const& options);
 
   /// As ByteSource::read(), called no more once it threw.
   virtual std::size_t decompress(char* room, std::size_t capacity) = 0;

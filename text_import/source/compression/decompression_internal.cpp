@@ -6,8 +6,8 @@
 #include "text_import/import_error.hpp"
 #include "text_import/source/bytes/compression_marks_internal.hpp"
 #include "text_import/source/compression/archive_source_internal.hpp"
-#include "text_import/source/encoding/binary_content_internal.hpp"
 #include "text_import/source/compression/gzip_source_internal.hpp"
+#include "text_import/source/encoding/binary_content_internal.hpp"
 
 namespace textimport {
 namespace {
@@ -47,14 +47,14 @@ std::string read_first_bytes(ByteSource& raw) {
 }  // namespace
 
 DecompressedBytes decompress(std::unique_ptr<ByteSource> raw, std::string const& path,
-                              OpenOptions const& options, std::vector<std::string>& warnings) {
+                             OpenOptions const& options, std::vector<std::string>& warnings) {
   std::string head = read_first_bytes(*raw);
   DecompressedBytes result;
   result.compression = compression_of(head);
   if (!options.member.empty() && result.compression != "zip") {
     throw ImportError(ImportErrorKind::MemberNotFound, path,
-                       "the member " + options.member +
-                           " was named, but the file is no zip archive; leave the member away");
+                      "the member " + options.member +
+                          " was named, but the file is no zip archive; leave the member away");
   }
   if (options.member.empty()) {
     refuse_office_document(head, path);

@@ -28,6 +28,6 @@ struct DecompressedBytes {
 /// Throws the same, and MemberNotFound, or BinaryContent for an archive that is really a document
 /// of an office program.
 DecompressedBytes decompress(std::unique_ptr<ByteSource> raw, std::string const& path,
-                              OpenOptions const& options, std::vector<std::string>& warnings);
+                             OpenOptions const& options, std::vector<std::string>& warnings);
 
 }  // namespace textimport

@@ -15,7 +15,7 @@ constexpr Bytef first_magic_byte = 0x1F;
 }  // namespace
 
 GzipSource::GzipSource(std::unique_ptr<ByteSource> raw, std::string const& path,
-                         OpenOptions const& options, std::vector<std::string>& warnings)
+                       OpenOptions const& options, std::vector<std::string>& warnings)
     : DecompressingSource(std::move(raw), path, "gzip", options), warnings_(warnings) {
   if (inflateInit2(&stream_, gzip_only_and_largest_window) != Z_OK) {
     throw std::bad_alloc();

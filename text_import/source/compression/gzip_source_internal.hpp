@@ -12,8 +12,8 @@ namespace textimport {
 
 class GzipSource : public DecompressingSource {
  public:
-  GzipSource(std::unique_ptr<ByteSource> raw, std::string const& path,
-              OpenOptions const& options, std::vector<std::string>& warnings);
+  GzipSource(std::unique_ptr<ByteSource> raw, std::string const& path, OpenOptions const& options,
+             std::vector<std::string>& warnings);
 
   GzipSource(GzipSource const&) = delete;
   GzipSource(GzipSource&&) = delete;

@@ -138,8 +138,8 @@ void refuse_binary_format(std::string_view const head, std::string_view const co
     std::string const what =
         inner != "none" ? std::string(inner) + " data" : std::string(format->description);
     throw ImportError(ImportErrorKind::NestedCompression, path,
-                       "packed twice: inside the " + std::string(compression) + " data lies " +
-                           what + "; unpack the file once and try again");
+                      "packed twice: inside the " + std::string(compression) + " data lies " +
+                          what + "; unpack the file once and try again");
   }
   if (format != nullptr) {
     throw_binary(path, format->description, format->advice);

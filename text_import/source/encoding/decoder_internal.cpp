@@ -225,8 +225,8 @@ void Decoder::throw_bad_bytes() const {
   }
   std::uint64_t const offset = counts_.first_bad_offsets.front();
   throw ImportError(ImportErrorKind::BadBytes, path_,
-                     "the bytes at offset " + std::to_string(offset) + " mean nothing in " +
-                         encoding_ + "; name the right encoding, or read without strictness")
+                    "the bytes at offset " + std::to_string(offset) + " mean nothing in " +
+                        encoding_ + "; name the right encoding, or read without strictness")
       .at_byte(offset);
 }
 

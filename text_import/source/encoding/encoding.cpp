@@ -189,15 +189,15 @@ EncodingFinding guess(std::string_view const head) {
     list += (list.empty() ? "" : ", ") + candidate;
   }
   throw ImportError(ImportErrorKind::UnknownEncoding, path,
-                     "there is no encoding \"" + name + "\"; " + introduction + list);
+                    "there is no encoding \"" + name + "\"; " + introduction + list);
 }
 
 }  // namespace
 
 EncodingFinding find_encoding(std::string_view const head, bool const complete) {
   if (ByteOrderMark const* const mark = mark_of(head)) {
-    return {mark->encoding, EncodingReason::ByteOrderMark,
-            "the file begins with a byte-order mark", mark->bytes.size()};
+    return {mark->encoding, EncodingReason::ByteOrderMark, "the file begins with a byte-order mark",
+            mark->bytes.size()};
   }
   if (auto const name = by_nul_pattern(head)) {
     return {*name, EncodingReason::NulPattern, "every few bytes are NUL, in the order of " + *name,
@@ -207,10 +207,10 @@ EncodingFinding find_encoding(std::string_view const head, bool const complete) 
   if (utf8.faults == 0 && utf8.sequences == 0) {
     // ASCII with escapes may be text that shifts to other characters by them.
     auto const shifting = utf8.has_escapes ? by_statistics(head) : std::nullopt;
-    return shifting ? EncodingFinding{*shifting, EncodingReason::Statistics,
-                                       "the text shifts to other characters by escapes", 0}
-                    : EncodingFinding{"UTF-8", EncodingReason::OnlyAscii,
-                                       "all characters are ASCII", 0};
+    return shifting
+               ? EncodingFinding{*shifting, EncodingReason::Statistics,
+                                 "the text shifts to other characters by escapes", 0}
+               : EncodingFinding{"UTF-8", EncodingReason::OnlyAscii, "all characters are ASCII", 0};
   }
   if (utf8.faults == 0) {
     return {"UTF-8", EncodingReason::ValidUtf8, "all of the text is well-formed UTF-8", 0};
@@ -223,9 +223,9 @@ EncodingFinding find_encoding(std::string_view const head, bool const complete) 
 }
 
 EncodingFinding given_encoding(std::string const& name, std::string_view const head,
-                                std::string const& path) {
+                               std::string const& path) {
   EncodingFinding finding{usual_encoding_name(name), EncodingReason::Given,
-                           "the encoding was given", 0};
+                          "the encoding was given", 0};
   if (finding.name.empty()) {
     throw_unknown(name, path);
   }

@@ -54,8 +54,8 @@ struct EncodingFinding {
 /// order comes from the mark, else from the pattern of NUL bytes, else it is big-endian.
 /// Throws ImportError (UnknownEncoding) with `path` and the names that are near.
 [[nodiscard]] TEXT_IMPORT_API EncodingFinding given_encoding(std::string const& name,
-                                                              std::string_view head,
-                                                              std::string const& path);
+                                                             std::string_view head,
+                                                             std::string const& path);
 
 /// The standard names of the known encodings, sorted. Others are known by their vendors' names.
 [[nodiscard]] TEXT_IMPORT_API std::vector<std::string> encoding_names();
