@@ -157,7 +157,8 @@ class Documents(Case):
         return re.findall(rf"^```{language}\n(.*?)^```$", text, re.DOTALL | re.MULTILINE)
 
     def test_documents_show_real_output(self):
-        for document in ["README.md", "docs/command-line.md"]:
+        os.symlink(ROOT / "tests", f"{self.folder}/tests")
+        for document in ["README.md", "docs/command-line.md", "docs/how-it-decides.md"]:
             blocks = self.blocks(document, "console")
             self.assertGreaterEqual(len(blocks), 3)
             for block in blocks:
