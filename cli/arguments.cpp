@@ -40,8 +40,23 @@ std::string cli_name(OptionSpec const& spec) {
   return spec.letter == 0 ? name : fmt::format("-{},{}", spec.letter, name);
 }
 
-void add_options(CLI::App& app, Arguments& arguments) {
+/// Whether some word may be the option: its long name, or one letter among others.
+bool is_mentioned(OptionSpec const& row, std::vector<std::string> const& words) {
+  return std::ranges::any_of(words, [&](std::string_view const word) {
+    bool const is_long = word.starts_with("--");
+    return is_long ? word.substr(2).starts_with(row.name)
+                   : word.starts_with('-') && row.letter != 0 &&
+                         word.find(row.letter) != std::string_view::npos;
+  });
+}
+
+/// Each option is compared with all that were added before it, so only those that stand among the
+/// words are: the others could not be met.
+void add_options(CLI::App& app, std::vector<std::string> const& words, Arguments& arguments) {
   for (OptionSpec const& row : options()) {
+    if (!is_mentioned(row, words)) {
+      continue;
+    }
     auto const store = [&arguments, option = row.option](CLI::results_t const& values) {
       arguments.given[option] = values;
       return true;
@@ -112,7 +127,7 @@ Arguments parse_arguments(std::vector<std::string> words) {
   take_command(words, arguments);
   CLI::App app;
   app.set_help_flag();
-  add_options(app, arguments);
+  add_options(app, words, arguments);
   keep_empty_values(words);
   // Not a positional option, whose values in square brackets would be cut up.
   app.allow_extras();

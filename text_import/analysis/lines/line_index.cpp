@@ -54,24 +54,8 @@ bool consists_of_ascii(std::u16string_view text) {
 
 LineIndex::LineIndex(std::u16string_view const text,
                      std::vector<std::u16string> const& line_endings)
-<<<<<<< HEAD
     : text_(text), is_ascii_(consists_of_ascii(text)) {
   UnitSearch search(text, first_units(line_endings));
-=======
-    : text_(text) {
-  for (char16_t const c : text) {
-    if (c < held_.size()) {
-      held_[c] = true;
-    } else {
-      is_ascii_ = false;
-    }
-  }
-  std::u16string const firsts = first_units(line_endings);
-  char16_t const highest = firsts.empty() ? u'\0' : std::ranges::max(firsts);
-  auto const may_end_line = [&](char16_t const c) {
-    return c <= highest && firsts.find(c) != std::u16string::npos;
-  };
->>>>>>> gate
   std::size_t start = 0;
   std::size_t pos = 0;
   while (start < text.size()) {
