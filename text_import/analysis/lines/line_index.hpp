@@ -54,7 +54,16 @@ class TEXT_IMPORT_API LineIndex {
   /// The line that holds the offset or whose ending does. The text must have a line.
   [[nodiscard]] std::size_t line_at(std::size_t offset) const noexcept;
 
-  /// The same as a place for people and programs. The text must have a line.
+  /// The same, looked for from `line` on, which holds an offset before it or the same one. Linear
+  /// in the lines between, for walks over a text.
+  [[nodiscard]] std::size_t line_from(std::size_t line, std::size_t const offset) const noexcept {
+    while (line + 1 < starts_.size() && starts_[line + 1] <= offset) {
+      ++line;
+    }
+    return line;
+  }
+
+  /// As line_at(), as a place for people and programs. The text must have a line.
   [[nodiscard]] Position position_of(std::size_t offset) const noexcept;
 
  private:

@@ -45,7 +45,7 @@ bool is_columnar(ColumnProfile const& profile) {
 class ReadingCollector {
  public:
   ReadingCollector(LineIndex const& lines, Task const& task, CollectedReadings& found)
-      : lines_(lines), task_(task), found_(found), held_(lines.held_of(common_delimiters)) {}
+      : lines_(lines), task_(task), found_(found) {}
 
   /// The engine's decision is kept for the first hypothesis that it is asked about.
   void ask_engine(AssumedOptions const& assumed) {
@@ -57,7 +57,10 @@ class ReadingCollector {
       add(sampled.strategy);
     }
     if (!task_.request.engine_decides) {
-      for (std::u16string const& delimiter : unguessed_delimiters(lines_, held_, report)) {
+      if (hypothesis_ == 0) {
+        delimiters_ = find_text_delimiters(lines_);
+      }
+      for (std::u16string const& delimiter : unguessed_delimiters(delimiters_, report)) {
         evaluate<DelimitedStrategy>(assumed, delimiter_list{delimiter});
       }
     }
@@ -150,7 +153,7 @@ class ReadingCollector {
   LineIndex const& lines_;
   Task const& task_;
   CollectedReadings& found_;
-  std::u16string held_;  // the usual delimiters that stand in the text
+  TextDelimiters delimiters_;
   std::size_t hypothesis_ = 0;
 };
 

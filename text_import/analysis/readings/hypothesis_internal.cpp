@@ -37,7 +37,7 @@ MarkedLines count_marked(LineIndex const& lines, view const marker) {
     if (lines[i].starts_with(marker)) {
       ++marked.count;
       ++run;
-    } else if (!trimmed(lines[i]).empty()) {
+    } else if ((is_top || run > 0) && !trimmed(lines[i]).empty()) {
       marked.at_edges += is_top ? run : 0U;
       is_top = false;
       run = 0;

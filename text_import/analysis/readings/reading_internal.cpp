@@ -21,6 +21,7 @@ void place_records(Reading& r, LineIndex const& lines) {
   FieldArray const& fields = *r.strategy->field_array();
   char16_t const* const text = lines.text().data();
   std::size_t next_line = 0;
+  std::size_t last_seen = 0;
   r.records.reserve(fields.num_records());
   for (std::size_t i = 0; i < fields.num_records(); ++i) {
     auto const record = fields.record(i);
@@ -28,8 +29,10 @@ void place_records(Reading& r, LineIndex const& lines) {
     std::size_t last_line = line;
     if (!record.empty()) {
       Field const& last = record.back();
-      line = lines.line_at(static_cast<std::size_t>(record.front().data() - text));
-      last_line = lines.line_at(static_cast<std::size_t>(last.data() - text) + last.length());
+      line = lines.line_from(last_seen, static_cast<std::size_t>(record.front().data() - text));
+      last_line =
+          lines.line_from(line, static_cast<std::size_t>(last.data() - text) + last.length());
+      last_seen = last_line;
       r.longest_record = std::max(r.longest_record, last_line - line + 1);
     }
     bool const is_blank =

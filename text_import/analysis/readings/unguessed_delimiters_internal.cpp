@@ -102,23 +102,28 @@ std::u16string doubled_signs(LineIndex const& lines, view const signs) {
 
 }  // namespace
 
-std::vector<std::u16string> unguessed_delimiters(LineIndex const& lines,
-                                                 std::u16string_view const held,
-                                                 textio::detection::DetectionReport const& report) {
-  std::vector<std::u16string> delimiters;
-  for (char16_t const c : common_delimiters) {
-    if (held.find(c) != view::npos && !was_sampled(report, c)) {
-      delimiters.emplace_back(1, c);
-    }
-  }
+TextDelimiters find_text_delimiters(LineIndex const& lines) {
+  TextDelimiters found{lines.held_of(common_delimiters), {}};
   for (char16_t const c : doubled_signs(lines, u"|:;,~^#&@$")) {
-    delimiters.emplace_back(2, c);
+    found.unusual.emplace_back(2, c);
   }
   if (!lines.is_ascii()) {
     for (char16_t const c : constant_signs(lines, is_foreign_sign)) {
+      found.unusual.emplace_back(1, c);
+    }
+  }
+  return found;
+}
+
+std::vector<std::u16string> unguessed_delimiters(TextDelimiters const& text,
+                                                 textio::detection::DetectionReport const& report) {
+  std::vector<std::u16string> delimiters;
+  for (char16_t const c : common_delimiters) {
+    if (text.common.find(c) != view::npos && !was_sampled(report, c)) {
       delimiters.emplace_back(1, c);
     }
   }
+  delimiters.insert(delimiters.end(), text.unusual.begin(), text.unusual.end());
   return delimiters;
 }
 

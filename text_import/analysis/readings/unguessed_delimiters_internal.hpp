@@ -4,7 +4,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "text_format_detection/detection/detection_report.hpp"
@@ -12,11 +11,18 @@
 
 namespace textimport::analysis {
 
-/// Usual delimiters that stand outside the middle lines only, doubled delimiters such as "||", and
-/// signs outside ASCII that every line holds equally often. Few texts have any. `held`: the usual
-/// ones that stand in the text at all.
+/// What a text holds of them, whatever the engine guesses.
+struct TextDelimiters {
+  std::u16string common;  ///< those of common_delimiters that stand in the text
+  /// Doubled delimiters such as "||", and signs outside ASCII that every line holds equally often.
+  /// Few texts have any.
+  std::vector<std::u16string> unusual;
+};
+
+[[nodiscard]] TextDelimiters find_text_delimiters(LineIndex const& lines);
+
+/// Common delimiters that stand outside the middle lines only, and the unusual ones.
 [[nodiscard]] std::vector<std::u16string> unguessed_delimiters(
-    LineIndex const& lines, std::u16string_view held,
-    textio::detection::DetectionReport const& report);
+    TextDelimiters const& text, textio::detection::DetectionReport const& report);
 
 }  // namespace textimport::analysis

@@ -129,7 +129,8 @@ ValueShape ValueGrammar::shape_by_pattern(view const text) const {
   return has_time ? ValueShape::DateTime : ValueShape::Empty;
 }
 
-ValueShape ValueGrammar::shape_of_no_number(view const text) const {
+/// Empty for what is no such word.
+ValueShape ValueGrammar::shape_of_word(view const text) const {
   bool const is_nan = grammar::is_nan(text);
   if (!missing_words_ && (is_nan || is_usual_missing_word(text))) {
     return ValueShape::Missing;
@@ -137,8 +138,14 @@ ValueShape ValueGrammar::shape_of_no_number(view const text) const {
   if (is_nan || grammar::is_infinity<LenientValues>(text)) {
     return ValueShape::Real;
   }
-  if (is_boolean_word(text)) {
-    return ValueShape::Boolean;
+  return is_boolean_word(text) ? ValueShape::Boolean : ValueShape::Empty;
+}
+
+ValueShape ValueGrammar::shape_of_no_number(view const text) const {
+  if (may_be_word(text)) {
+    if (ValueShape const word = shape_of_word(text); word != ValueShape::Empty) {
+      return word;
+    }
   }
   if (!textio::platform::is_letter(text.front())) {
     if (grammar::count_duration_groups<LenientValues>(text) > 0) {

@@ -43,6 +43,7 @@ class ValueGrammar {
   }
 
   [[nodiscard]] ValueLook look_inside(std::u16string_view text) const;
+  [[nodiscard]] ValueShape shape_of_word(std::u16string_view text) const;
   [[nodiscard]] ValueShape shape_of_no_number(std::u16string_view text) const;
   [[nodiscard]] ValueShape shape_by_pattern(std::u16string_view text) const;
 

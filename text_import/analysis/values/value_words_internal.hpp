@@ -22,16 +22,43 @@ template <std::size_t n>
 }
 
 /// NaN is none of them, but a number that may be missing.
+inline constexpr std::array<std::u16string_view, 13> usual_missing_words{
+    u"na", u"n/a", u"null", u"nil", u"none", u"#n/a",   u"\\n",
+    u"-",  u"--",  u"?",    u".",   u"*",    u"missing"};
+
+inline constexpr std::array<std::u16string_view, 4> boolean_words{u"true", u"false", u"yes",
+                                                                  u"no"};
+
+/// For each ASCII character in lower case, whether one of the words begins with it, or a NaN or an
+/// infinity, which may have a sign.
+inline constexpr std::array<bool, 128> word_starts = [] {
+  std::array<bool, 128> starts{};
+  for (char16_t const c : std::u16string_view(u"+-ni")) {
+    starts[c] = true;
+  }
+  for (std::u16string_view const word : usual_missing_words) {
+    starts[word.front()] = true;
+  }
+  for (std::u16string_view const word : boolean_words) {
+    starts[word.front()] = true;
+  }
+  return starts;
+}();
+
+/// False for most texts that are none of the words, and neither NaN nor infinity: a quick look that
+/// saves the many comparisons. The text is not empty.
+[[nodiscard]] inline bool may_be_word(std::u16string_view const text) noexcept {
+  constexpr std::size_t longest = 9;  // "-infinity"
+  char16_t const start = textio::platform::to_lower(text.front());
+  return text.size() <= longest && start < word_starts.size() && word_starts[start];
+}
+
 [[nodiscard]] inline bool is_usual_missing_word(std::u16string_view const text) noexcept {
-  static constexpr std::array<std::u16string_view, 13> words{
-      u"na", u"n/a", u"null", u"nil", u"none", u"#n/a",   u"\\n",
-      u"-",  u"--",  u"?",    u".",   u"*",    u"missing"};
-  return text.size() <= 7 && is_one_of(text, words);
+  return is_one_of(text, usual_missing_words);
 }
 
 [[nodiscard]] inline bool is_boolean_word(std::u16string_view const text) noexcept {
-  static constexpr std::array<std::u16string_view, 4> words{u"true", u"false", u"yes", u"no"};
-  return text.size() <= 5 && is_one_of(text, words);
+  return is_one_of(text, boolean_words);
 }
 
 }  // namespace textimport::analysis
