@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "text_format_detection/model/field_array.hpp"
-#include "text_format_detection/model/unit_search_internal.hpp"
 #include "text_import/analysis/analysis.hpp"
 #include "text_import/analysis/checking/rule_check_internal.hpp"
 #include "text_import/analysis/describing/description_internal.hpp"
@@ -25,16 +24,11 @@ using analysis::Reading;
 using analysis::Task;
 using analysis::Weighing;
 
-std::u16string_view text_of(TextSample const& sample) {
-  std::u16string_view const end_mark(&textio::end_mark, 1);
-  return sample.text.substr(0, textio::model::UnitSearch(sample.text, end_mark).find(0));
-}
-
 class Analyst {
  public:
   Analyst(TextSample const& sample, Request const& request)
       : task_(analysis::make_task(sample, request)) {
-    found_.lines = LineIndex(text_of(sample), task_.parsing.line_endings);
+    found_.lines = LineIndex(sample.text, task_.parsing.line_endings);
   }
 
   Analysis run() {

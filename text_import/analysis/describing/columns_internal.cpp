@@ -28,8 +28,11 @@ bool is_date(ValueType const type) {
 /// What the values of one column have in common, value by value.
 class ColumnSummary {
  public:
+  /// `is_ascii`: each code unit of the text is a character.
+  explicit ColumnSummary(bool const is_ascii) : is_ascii_(is_ascii) {}
+
   void add(view const field, ValueGrammar const& values) {
-    ValueLook const look = values.look_at(field);
+    ValueLook const look = values.look_at_type(field);
     view const text = values.value_of(field);
     if (look.shape == ValueShape::Empty) {
       ++counts_.empty;
@@ -42,7 +45,7 @@ class ColumnSummary {
     ++counts_.values;
     ++shapes_[static_cast<std::size_t>(look.shape)];
     quoted_ += look.quoted ? 1U : 0U;
-    counts_.longest_value = std::max(counts_.longest_value, count_characters(text));
+    counts_.longest_value = std::max(counts_.longest_value, is_ascii_ ? text.size() : count_characters(text));
     column_.leading_zeros = column_.leading_zeros || look.leading_zeros;
     add_marks(look.marks);
     if (look.shape == ValueShape::Date || look.shape == ValueShape::DateTime) {
@@ -188,6 +191,7 @@ class ColumnSummary {
     counts_.fitting = count_fitting(given.leading_zeros ? ValueType::Integer : given.type);
   }
 
+  bool is_ascii_;
   Column column_;
   ColumnEvidence counts_;
   std::array<std::size_t, num_shapes> shapes_{};
@@ -202,8 +206,9 @@ class ColumnSummary {
 }  // namespace
 
 std::vector<DescribedColumn> describe_columns(Reading const& r, HeaderRows const& rows,
+                                              LineIndex const& lines,
                                               std::vector<Column> const& given) {
-  std::vector<ColumnSummary> summaries(r.block.columns);
+  std::vector<ColumnSummary> summaries(r.block.columns, ColumnSummary(lines.is_ascii()));
   auto const& fields = *r.strategy->field_array();
   for (std::size_t i = rows.first_data; i <= rows.last_data; ++i) {
     if (r.records[i].num_fields != r.block.columns) {
@@ -228,7 +233,7 @@ DescribedColumn describe_lines(LineIndex const& lines, std::size_t const first,
                                std::size_t const end, ValueGrammar const& values,
                                std::vector<Column> const& given) {
   constexpr std::size_t enough = 1000;
-  ColumnSummary summary;
+  ColumnSummary summary(lines.is_ascii());
   for (std::size_t i = first; i < std::min(end, first + enough); ++i) {
     summary.add(lines[i], values);
   }

@@ -23,6 +23,7 @@ struct DescribedColumn {
 /// and marks hold whatever the values say, where there are as many.
 [[nodiscard]] std::vector<DescribedColumn> describe_columns(Reading const& r,
                                                             HeaderRows const& rows,
+                                                            LineIndex const& lines,
                                                             std::vector<Column> const& given);
 
 /// The one column of a text that is read line by line, from a line up to, not including, `end`.

@@ -208,7 +208,7 @@ class Describer {
     if (r.layout == Layout::Delimited && !lines_.held_of(u" ").empty()) {
       format().layout.has_blanks_around_delimiters = has_blanks_around(r, rows);
     }
-    set_columns(describe_columns(r, rows, given_columns()));
+    set_columns(describe_columns(r, rows, lines_, given_columns()));
     set_names(format().columns, std::move(around.names));
     format().region.name_lines = std::move(around.name_lines);
     format().region.first_line = around.data_starts_at;

@@ -66,7 +66,7 @@ class CellTable {
     auto const fields = reading_.strategy->field_array()->record(record);
     for (std::size_t column = 0; column < reading_.block.columns; ++column) {
       view const text = column < fields.size() ? fields[column].view() : view();
-      cells_.push_back({reading_.values.value_of(text), reading_.values.look_at(text)});
+      cells_.push_back({reading_.values.value_of(text), reading_.values.look_at_type(text)});
     }
   }
 
@@ -237,7 +237,7 @@ std::size_t first_record_behind(Reading const& r, std::size_t const header,
   for (std::size_t i = header + 1; i < regular; ++i) {
     auto const fields = r.strategy->field_array()->record(i);
     bool const is_data = fields.size() > 1 && std::ranges::any_of(fields, [&](auto const& field) {
-                           return is_typed(r.values.look_at(field.view()).shape);
+                           return is_typed(r.values.look_at_type(field.view()).shape);
                          });
     if (is_data) {
       return i;

@@ -54,14 +54,20 @@ bool consists_of_ascii(std::u16string_view text) {
 
 LineIndex::LineIndex(std::u16string_view const text,
                      std::vector<std::u16string> const& line_endings)
-    : text_(text), is_ascii_(consists_of_ascii(text)) {
+    : text_(text) {
   UnitSearch search(text, first_units(line_endings));
   std::size_t start = 0;
   std::size_t pos = 0;
-  while (start < text.size()) {
+  while (start < text_.size()) {
     pos = search.find(pos);
-    std::size_t const length = ending_length(text.substr(pos), line_endings);
-    if (length == 0 && pos < text.size()) {
+    if (pos < text_.size() && text_[pos] == textio::end_mark) {
+      text_ = text_.substr(0, pos);
+      if (start == pos) {
+        break;
+      }
+    }
+    std::size_t const length = ending_length(text_.substr(pos), line_endings);
+    if (length == 0 && pos < text_.size()) {
       ++pos;
       continue;
     }
@@ -70,6 +76,7 @@ LineIndex::LineIndex(std::u16string_view const text,
     pos += length;
     start = pos;
   }
+  is_ascii_ = consists_of_ascii(text_);
 }
 
 std::u16string LineIndex::held_of(std::u16string_view const wanted) const {

@@ -14,9 +14,9 @@
 
 namespace textimport {
 
-/// The lines of a text, which holds no U+FFFF, as an editor numbers them, counted from 0, whatever
-/// quotes and comments they are part of. A line ending behind the last line starts no further one.
-/// Refers to the text, which must outlive it. Positions count code units from the text's start.
+/// The lines of a text, which ends at its length or its first U+FFFF, as an editor numbers them,
+/// counted from 0, whatever quotes and comments they are part of. A line ending behind the last
+/// line starts no further one. Refers to the text, which must outlive it. Positions count code units from the text's start.
 class TEXT_IMPORT_API LineIndex {
  public:
   /// An index of no text.
@@ -27,6 +27,7 @@ class TEXT_IMPORT_API LineIndex {
 
   [[nodiscard]] std::size_t count() const noexcept { return starts_.size(); }
 
+  /// The text up to its end.
   [[nodiscard]] std::u16string_view text() const noexcept { return text_; }
 
   /// The line without its ending; it must exist.

@@ -6,6 +6,8 @@
 #include <cstddef>
 #include <optional>
 
+#include "text_format_detection/model/unit_search_internal.hpp"
+
 #include "text_import/analysis/values/text_internal.hpp"
 
 namespace textimport::analysis {
@@ -60,6 +62,12 @@ std::optional<view> find_comment_marker(LineIndex const& lines) {
     }
   }
   return best;
+}
+
+/// Whether the character stands in the lines that are looked at.
+bool holds(LineIndex const& lines, char16_t const character) {
+  std::u16string_view const head = lines.between(0, num_looked_at(lines));
+  return textio::model::UnitSearch(head, {&character, 1}).find(0) < head.size();
 }
 
 /// Quotes that an odd number of lines hold an odd number of: one of them does not close where
@@ -126,11 +134,11 @@ std::vector<AssumedOptions> propose_hypotheses(LineIndex const& lines, Task cons
   std::vector<AssumedOptions> assumed{{{}, task.parsing}};
   char16_t const quote = quote_of(task.parsing);
   if (!task.request.quote) {
-    if (quote != 0 && has_odd_quotes(lines, quote)) {
+    if (quote != 0 && holds(lines, quote) && has_odd_quotes(lines, quote)) {
       assumed.push_back({{.quotes_are_ordinary = true}, task.parsing});
       assumed.back().parsing.quote_characters.clear();
     }
-    if (quote != u'\'' && has_apostrophe_quotes(lines)) {
+    if (quote != u'\'' && holds(lines, u'\'') && has_apostrophe_quotes(lines)) {
       assumed.push_back({{.apostrophes_quote = true}, task.parsing});
       assumed.back().parsing.quote_characters = u"'";
     }

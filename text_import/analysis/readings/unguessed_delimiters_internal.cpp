@@ -2,10 +2,10 @@
 #include "text_import/analysis/readings/unguessed_delimiters_internal.hpp"
 
 #include <algorithm>
+#include <array>
 #include <map>
 #include <set>
 
-#include "text_format_detection/platform/ascii_internal.hpp"
 #include "text_import/analysis/readings/usual_delimiters_internal.hpp"
 #include "text_import/analysis/values/text_internal.hpp"
 
@@ -23,10 +23,6 @@ bool was_sampled(textio::detection::DetectionReport const& report, char16_t cons
     auto const& delimiters = sampled.strategy->options().delimiters;
     return delimiters.size() == 1 && delimiters.front() == view(&delimiter, 1);
   });
-}
-
-constexpr bool is_letter_or_digit(char16_t const c) {
-  return textio::platform::is_digit(c) || textio::platform::is_letter(c);
 }
 
 /// How often each character of a set stands in the line.
@@ -72,17 +68,21 @@ std::set<char16_t> constant_signs(LineIndex const& lines, bool (*is_sign)(char16
   return signs;
 }
 
-/// The characters of a set that stand in pairs only, and in most lines.
+/// The characters of a set of ASCII ones that stand in pairs only, and in most lines.
 std::u16string doubled_signs(LineIndex const& lines, view const signs) {
   std::size_t const looked_at = std::min(lines.count(), lines_looked_at);
   std::u16string left(signs);
   std::vector<std::size_t> lines_with(signs.size(), 0);
+  std::array<bool, 128> is_wanted{};
+  for (char16_t const c : signs) {
+    is_wanted.at(c) = true;
+  }
   for (std::size_t i = 0; i < looked_at && !left.empty(); ++i) {
     view const line = lines[i];
     std::u16string met;
     for (std::size_t pos = 0; pos < line.size(); ++pos) {
       char16_t const c = line[pos];
-      if (c >= 0x80 || is_letter_or_digit(c) || left.find(c) == view::npos) {
+      if (c >= is_wanted.size() || !is_wanted[c] || left.find(c) == view::npos) {
         continue;
       }
       if (pos + 1 == line.size() || line[pos + 1] != c) {

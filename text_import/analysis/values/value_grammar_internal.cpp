@@ -169,7 +169,7 @@ ValueShape ValueGrammar::shape_of_no_number(view const text) const {
   if (embedded_numbers_ && std::ranges::any_of(text, textio::platform::is_digit)) {
     return ValueShape::Real;
   }
-  return shape_of_text(text, quote_);
+  return ValueShape::Word;
 }
 
 ValueLook ValueGrammar::look_inside(view const text) const {
@@ -208,11 +208,22 @@ view ValueGrammar::value_of(view const field) const noexcept {
   return text;
 }
 
-ValueLook ValueGrammar::look_at(view const field) const {
+ValueLook ValueGrammar::look_at_type(view const field) const {
   view const text = stripped(field);
-  bool const opens = quote_ != 0 && text.starts_with(quote_);
   ValueLook look = look_inside(value_of(text));
   look.quoted = stands_in(text, quote_);
+  return look;
+}
+
+ValueLook ValueGrammar::look_at(view const field) const {
+  view const text = stripped(field);
+  view const value = value_of(text);
+  ValueLook look = look_inside(value);
+  look.quoted = stands_in(text, quote_);
+  if (look.shape == ValueShape::Word) {
+    look.shape = shape_of_text(value, quote_);
+  }
+  bool const opens = quote_ != 0 && text.starts_with(quote_);
   if (opens && !look.quoted) {
     look.shape = ValueShape::Broken;  // opened, and closed somewhere inside
   }

@@ -33,6 +33,10 @@ class ValueGrammar {
   /// Looks at one field. Linear in the text.
   [[nodiscard]] ValueLook look_at(std::u16string_view field) const;
 
+  /// The same for those who ask for the type alone: every text is a Word, and is not looked through
+  /// for what a cut at the wrong place leaves.
+  [[nodiscard]] ValueLook look_at_type(std::u16string_view field) const;
+
   /// What is looked at: the field without blanks around it, one pair of quotes and the leading
   /// character. A view into the field.
   [[nodiscard]] std::u16string_view value_of(std::u16string_view field) const noexcept;
