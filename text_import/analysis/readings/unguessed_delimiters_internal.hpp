@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Delimiters that the library never guesses, or did not meet where it looks for candidates.
+// Delimiters that the engine never guesses, or did not meet where it looks for candidates.
 #pragma once
 
 #include <string>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // What a single value looks like to a reader who knows nothing of its column: finer than the
-// library's column types, since a survey weighs values that the library's tests call text.
+// engine's column types, since an analysis weighs values that the engine's tests call text.
 #pragma once
 
 #include <cstdint>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The rules by which a survey narrows its readings, in the order in which they run. Each has a file
-// of its own, with its reason. What no rule leaves is read line by line.
+// The rules by which an analysis narrows its readings, in the order in which they run. Each has a
+// file of its own, with its reason. What no rule leaves is read line by line.
 #pragma once
 
 #include <cstddef>
