@@ -2,8 +2,6 @@
 
 #include "text_import/format/json_writer_internal.hpp"
 
-#include <algorithm>
-
 #include "text_import/format/utf.hpp"
 
 namespace textimport {
