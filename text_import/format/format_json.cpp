@@ -3,6 +3,7 @@
 #include "text_import/format/format_json.hpp"
 
 #include <algorithm>
+#include <utility>
 
 #include "text_import/format/format_check_internal.hpp"
 #include "text_import/format/format_reader_internal.hpp"
@@ -79,54 +80,14 @@ void read_format(JsonPlace const& place, Format& format) {
   }
 }
 
-std::string plain_text(Json const& json) {
-  return json.dump(-1, ' ', false, Json::error_handler_t::replace);
-}
-
-bool is_plain(Json const& json) {
-  return !json.is_structured() || json.empty();
-}
-
-void append_indented(std::string& text, Json const& json, std::size_t left);
-
-/// The items of a list or the members of an object, each behind `start`.
-void append_items(std::string& text, Json const& json, std::string const& start,
-                  std::size_t const left) {
-  bool is_first = true;
-  for (auto const& [name, value] : json.items()) {
-    text.append(is_first ? "" : ",").append(is_first && start == " " ? "" : start);
-    text.append(json.is_object() ? plain_text(name) + ": " : "");
-    append_indented(text, value, left);
-    is_first = false;
-  }
-}
-
-/// Lists of plain values stand on one line, all else on lines of their own.
-void append_indented(std::string& text, Json const& json, std::size_t const left) {
-  if (is_plain(json)) {
-    text += plain_text(json);
-    return;
-  }
-  text += json.is_object() ? '{' : '[';
-  if (json.is_array() && std::ranges::all_of(json, is_plain)) {
-    append_items(text, json, " ", left);
-  } else {
-    append_items(text, json, "\n" + std::string(left + 2, ' '), left + 2);
-    text.append("\n").append(left, ' ');
-  }
-  text += json.is_object() ? '}' : ']';
-}
-
 }  // namespace
 
 std::string to_json(Format const& format, JsonForm const form) {
-  Json const object = format_object(format);
-  if (form == JsonForm::Compact) {
-    return compact_text(object);
-  }
-  std::string text;
-  append_indented(text, object, 0);
-  return text + '\n';
+  bool const is_indented = form == JsonForm::Indented;
+  JsonWriter writer(is_indented ? JsonWriter::Layout::Indented : JsonWriter::Layout::OneLine);
+  write_format(writer, format);
+  std::string text = std::move(writer).take();
+  return is_indented ? std::move(text) + '\n' : text;
 }
 
 FormatParse format_from_json(std::string_view const json) {

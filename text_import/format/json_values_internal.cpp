@@ -4,36 +4,58 @@
 
 #include <cmath>
 
-#include "text_import/format/utf.hpp"
-
 namespace textimport {
 
-Json json_value(std::u16string const& text) {
+void write_value(JsonWriter& writer, std::string_view const text) {
+  writer.value(text);
+}
+
+void write_value(JsonWriter& writer, std::string const& bytes) {
+  if (from_utf8(bytes)) {
+    writer.value(std::string_view(bytes));
+    return;
+  }
+  writer.begin_object();
+  write_member(writer, "bytes", std::string_view(hexadecimal(bytes)));
+  writer.end_object();
+}
+
+void write_value(JsonWriter& writer, std::u16string const& text) {
   if (!has_lone_surrogate(text)) {
-    return to_utf8(text);
+    writer.value(std::string_view(to_utf8(text)));
+    return;
   }
-  Json units = Json::array();
-  for (char16_t const unit : text) {
-    units.push_back(std::uint16_t{unit});
+  writer.begin_object();
+  write_member(writer, "utf16", std::vector<std::uint16_t>(text.begin(), text.end()));
+  writer.end_object();
+}
+
+void write_value(JsonWriter& writer, char16_t const character) {
+  if (character == 0) {
+    writer.value(nullptr);
+  } else {
+    write_value(writer, std::u16string(1, character));
   }
-  return {{"utf16", std::move(units)}};
 }
 
-Json json_value(std::string const& bytes) {
-  return from_utf8(bytes) ? Json(bytes) : Json{{"bytes", hexadecimal(bytes)}};
-}
-
-Json json_value(char16_t const character) {
-  return character == 0 ? Json() : json_value(std::u16string(1, character));
-}
-
-Json json_value(double const number) {
+void write_value(JsonWriter& writer, double const number) {
   constexpr double largest = 1e15;
   constexpr double steps = 1e4;
-  return std::abs(number) < largest ? Json(std::round(number * steps) / steps) : Json();
+  if (std::abs(number) < largest) {
+    writer.value(std::round(number * steps) / steps);
+  } else {
+    writer.value(nullptr);
+  }
 }
 
-std::string hexadecimal(std::string const& bytes) {
+void write_format(JsonWriter& writer, Format const& format) {
+  writer.begin_object();
+  write_member(writer, "schema", json_schema);
+  write_members(writer, format);
+  writer.end_object();
+}
+
+std::string hexadecimal(std::string_view const bytes) {
   constexpr std::string_view digits = "0123456789abcdef";
   std::string text;
   for (char const c : bytes) {
@@ -42,18 +64,6 @@ std::string hexadecimal(std::string const& bytes) {
     text += digits[byte & 0x0FU];
   }
   return text;
-}
-
-Json format_object(Format const& format) {
-  Json object{{"schema", json_schema}};
-  object.update(json_value(format));
-  return object;
-}
-
-std::string compact_text(Json const& json) {
-  constexpr int on_one_line = -1;
-  constexpr bool only_ascii = true;
-  return json.dump(on_one_line, ' ', only_ascii, Json::error_handler_t::replace);
 }
 
 }  // namespace textimport

@@ -4,88 +4,128 @@
 // written, wherever they stand.
 #pragma once
 
+#include <algorithm>
 #include <concepts>
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <type_traits>
-#include <utility>
 #include <vector>
 
-#include <nlohmann/json.hpp>
-
 #include "text_import/format/format_members_internal.hpp"
+#include "text_import/format/json_writer_internal.hpp"
+#include "text_import/format/utf.hpp"
 #include "text_import/format/words.hpp"
 
 namespace textimport {
-
-using Json = nlohmann::ordered_json;
 
 /// "schema": the number of the JSON form. It changes when a member is removed or changes its
 /// meaning.
 inline constexpr std::uint64_t json_schema = 2;
 
-[[nodiscard]] Json json_value(std::u16string const& text);
-[[nodiscard]] Json json_value(std::string const& bytes);
+/// UTF-8 that need not come back: what is none is replaced.
+void write_value(JsonWriter& writer, std::string_view text);
+
+/// Bytes that must come back, whatever they are.
+void write_value(JsonWriter& writer, std::string const& bytes);
+void write_value(JsonWriter& writer, std::u16string const& text);
 
 /// A character; null for 0.
-[[nodiscard]] Json json_value(char16_t character);
-
-[[nodiscard]] inline Json json_value(bool const value) {
-  return value;
-}
-
-[[nodiscard]] Json json_value(std::unsigned_integral auto const number) {
-  return number;
-}
+void write_value(JsonWriter& writer, char16_t character);
 
 /// A share, a score, a measure: to four decimals. Null for what is no such number: NaN, and what
 /// stands for none by being infinite or beyond 1e15.
-[[nodiscard]] Json json_value(double number);
+void write_value(JsonWriter& writer, double number);
 
-/// Bytes in hexadecimal, two small digits each.
-[[nodiscard]] std::string hexadecimal(std::string const& bytes);
+/// True, false and whole numbers.
+void write_value(JsonWriter& writer, std::integral auto const value) {
+  writer.value(value);
+}
 
 template <class Enum>
 requires std::is_enum_v<Enum>
 
-[[nodiscard]] Json json_value(Enum const value) {
-  return word_of(value);
+void write_value(JsonWriter& writer, Enum const value) {
+  writer.value(word_of(value));
+}
+
+template <class T>
+void write_value(JsonWriter& writer, std::optional<T> const& value);
+
+template <class T>
+void write_value(JsonWriter& writer, std::vector<T> const& list);
+
+template <class Part>
+requires std::is_class_v<Part>
+void write_value(JsonWriter& writer, Part const& part);
+
+template <class T>
+void write_member(JsonWriter& writer, std::string_view const name, T const& value) {
+  writer.key(name);
+  write_value(writer, value);
+}
+
+template <class T>
+void write_value(JsonWriter& writer, std::optional<T> const& value) {
+  if (value) {
+    write_value(writer, *value);
+  } else {
+    writer.value(nullptr);
+  }
+}
+
+/// How a list stands in an indented text: on one line, unless one of its items is an object.
+template <class T>
+[[nodiscard]] JsonWriter::List list_of(std::vector<T> const& items) {
+  bool has_objects = std::is_class_v<T>;
+  if constexpr (std::same_as<T, std::u16string>) {
+    has_objects = std::ranges::any_of(items, has_lone_surrogate);
+  }
+  return has_objects ? JsonWriter::List::OnLines : JsonWriter::List::OnOneLine;
+}
+
+template <class T>
+void write_value(JsonWriter& writer, std::vector<T> const& list) {
+  writer.begin_list(list_of(list));
+  for (T const& item : list) {
+    write_value(writer, item);
+  }
+  writer.end_list();
+}
+
+/// The members of a part, without the brackets around them.
+template <class Part>
+void write_members(JsonWriter& writer, Part const& part) {
+  auto const write = [&writer](char const* const name, auto const& member) {
+    write_member(writer, name, member);
+  };
+  visit_members(write, part);
 }
 
 template <class Part>
 requires std::is_class_v<Part>
-[[nodiscard]] Json json_value(Part const& part);
 
-template <class T>
-[[nodiscard]] Json json_value(std::optional<T> const& value) {
-  return value ? json_value(*value) : Json();
+void write_value(JsonWriter& writer, Part const& part) {
+  writer.begin_object();
+  write_members(writer, part);
+  writer.end_object();
 }
 
-template <class T>
-[[nodiscard]] Json json_value(std::vector<T> const& list) {
-  Json array = Json::array();
-  for (T const& item : list) {
-    array.push_back(json_value(item));
+/// A list of objects, each of which `write(writer, item)` writes.
+template <class Items, class Write>
+void write_list(JsonWriter& writer, Items const& items, Write const& write) {
+  writer.begin_list();
+  for (auto const& item : items) {
+    write(writer, item);
   }
-  return array;
-}
-
-template <class Part>
-
-requires std::is_class_v<Part> Json json_value(Part const& part) {
-  Json object = Json::object();
-  auto const add = [&object](char const* const name, auto const& member) {
-    object.push_back({name, json_value(member)});
-  };
-  visit_members(add, part);
-  return object;
+  writer.end_list();
 }
 
 /// A Format as it is saved, "schema" in front.
-[[nodiscard]] Json format_object(Format const& format);
+void write_format(JsonWriter& writer, Format const& format);
 
-/// On one line, everything beyond ASCII escaped.
-[[nodiscard]] std::string compact_text(Json const& json);
+/// Bytes in hexadecimal, two small digits each.
+[[nodiscard]] std::string hexadecimal(std::string_view bytes);
 
 }  // namespace textimport

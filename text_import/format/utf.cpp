@@ -8,43 +8,59 @@ namespace textimport {
 
 namespace {
 
-constexpr char32_t no_character = 0xFFFFFFFF;
-
 /// The number of bytes of the character that begins with this one; 0 for none.
-std::size_t length_from(char32_t const lead) {
+std::size_t length_from(unsigned char const lead) {
   if (lead < 0x80) {
     return 1;
   }
-  if (lead < 0xC0) {
+  if (lead < 0xC2) {
     return 0;
   }
-  return lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : lead < 0xF8 ? 4 : 0;
+  return lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : lead < 0xF5 ? 4 : 0;
 }
 
-/// The character at `pos`, which moves behind it; no_character where the bytes are no UTF-8.
-char32_t next_from_utf8(std::string_view const bytes, std::size_t& pos) {
-  constexpr std::array<char32_t, 5> lead_bits{0, 0x7F, 0x1F, 0x0F, 0x07};
-  constexpr std::array<char32_t, 5> smallest{0, 0, 0x80, 0x800, 0x10000};
-  auto const byte_at = [bytes](std::size_t const place) -> char32_t {
-    return static_cast<unsigned char>(bytes[place]);
-  };
-  std::size_t const length = length_from(byte_at(pos));
-  if (length == 0 || length > bytes.size() - pos) {
-    return no_character;
+/// The values that a byte may have.
+struct ByteRange {
+  unsigned char first = 0x80;
+  unsigned char last = 0xBF;
+};
+
+/// Of the byte behind the first one. The narrower ranges keep out characters that are longer than
+/// need be, surrogates, and numbers above U+10FFFF.
+ByteRange second_bytes(unsigned char const lead) {
+  switch (lead) {
+    case 0xE0:
+      return {0xA0, 0xBF};
+    case 0xED:
+      return {0x80, 0x9F};
+    case 0xF0:
+      return {0x90, 0xBF};
+    case 0xF4:
+      return {0x80, 0x8F};
+    default:
+      return {};
   }
-  char32_t c = byte_at(pos) & lead_bits[length];
-  for (std::size_t i = 1; i < length; ++i) {
-    char32_t const trail = byte_at(pos + i);
-    if ((trail & 0xC0U) != 0x80) {
-      return no_character;
-    }
-    c = (c << 6U) | (trail & 0x3FU);
-  }
-  pos += length;
-  return c < smallest[length] || c > 0x10FFFF || is_surrogate(c) ? no_character : c;
 }
 
 }  // namespace
+
+std::optional<char32_t> next_character(std::string_view const bytes, std::size_t& pos) {
+  constexpr std::array<unsigned char, 5> lead_bits{0, 0x7F, 0x1F, 0x0F, 0x07};
+  auto const lead = static_cast<unsigned char>(bytes[pos++]);
+  std::size_t const length = length_from(lead);
+  ByteRange range = second_bytes(lead);
+  char32_t c = lead & lead_bits[length];
+  for (std::size_t i = 1; i < length; ++i) {
+    auto const trail = static_cast<unsigned char>(pos < bytes.size() ? bytes[pos] : 0);
+    if (trail < range.first || trail > range.last) {
+      return std::nullopt;
+    }
+    c = (c << 6U) | (trail & 0x3FU);
+    range = {};
+    ++pos;
+  }
+  return length == 0 ? std::nullopt : std::optional(c);
+}
 
 char32_t next_character(std::u16string_view const text, std::size_t& pos) {
   char32_t const lead = text[pos++];
@@ -108,11 +124,11 @@ std::optional<std::u16string> from_utf8(std::string_view const bytes) {
   std::u16string text;
   text.reserve(bytes.size());
   for (std::size_t pos = 0; pos < bytes.size();) {
-    char32_t const c = next_from_utf8(bytes, pos);
-    if (c == no_character) {
+    std::optional<char32_t> const c = next_character(bytes, pos);
+    if (!c) {
       return std::nullopt;
     }
-    append_utf16(text, c);
+    append_utf16(text, *c);
   }
   return text;
 }

@@ -15,6 +15,11 @@ namespace textimport {
 /// The character at `pos`, which moves behind it. A lone surrogate comes back as itself.
 [[nodiscard]] TEXT_IMPORT_API char32_t next_character(std::u16string_view text, std::size_t& pos);
 
+/// The same of UTF-8. Nothing where the bytes are none; `pos` then moves behind the longest part of
+/// a character that stands there, or behind one byte that begins none.
+[[nodiscard]] TEXT_IMPORT_API std::optional<char32_t> next_character(std::string_view bytes,
+                                                                     std::size_t& pos);
+
 [[nodiscard]] constexpr bool is_surrogate(char32_t const c) noexcept {
   return c >= 0xD800 && c <= 0xDFFF;
 }

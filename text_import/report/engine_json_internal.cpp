@@ -4,6 +4,7 @@
 
 #include "text_format_detection/detection/untried_characters.hpp"
 #include "text_import/analysis/engine_margin.hpp"
+#include "text_import/format/json_values_internal.hpp"
 #include "text_import/format/utf.hpp"
 #include "text_import/report/engine_words.hpp"
 
@@ -15,125 +16,139 @@ using textio::GenericStrategy;
 using textio::detection::DetectionReport;
 using textio::detection::Outcome;
 using textio::detection::RejectionClause;
+using textio::detection::RuleStep;
+using textio::detection::SampledStrategy;
+using textio::detection::UntriedCharacter;
 using textio::enums::ColumnType;
 using textio::enums::StrategyMode;
 
-Json known_count(std::size_t const count) {
-  return count == textio::unknown_count ? Json() : json_value(count);
+std::optional<std::size_t> known_count(std::size_t const count) {
+  return count == textio::unknown_count ? std::nullopt : std::optional(count);
 }
 
 /// How a strategy splits lines. Of the options only what its mode reads by means anything.
-Json reading(GenericStrategy const& strategy) {
+void write_reading(JsonWriter& writer, GenericStrategy const& strategy) {
   StrategyMode const mode = strategy.mode();
   auto const& options = strategy.options();
   bool const has_delimiters = mode == StrategyMode::Delimited || mode == StrategyMode::SpaceAligned;
-  Json object{{"layout", word_of(mode)}};
-  object["delimiters"] = has_delimiters ? json_value(options.delimiters) : Json::array();
-  object["widths"] =
-      mode == StrategyMode::FixedWidth ? json_value(options.column_widths) : Json::array();
-  return object;
+  bool const has_widths = mode == StrategyMode::FixedWidth;
+  write_member(writer, "layout", mode);
+  write_member(writer, "delimiters",
+               has_delimiters ? options.delimiters : decltype(options.delimiters)());
+  write_member(writer, "widths",
+               has_widths ? options.column_widths : decltype(options.column_widths)());
 }
 
-void add_columns(Json& object, GenericStrategy& strategy) {
-  object["header_lines"] = known_count(strategy.valuation().header_lines);
-  object["num_columns"] = strategy.valuation().num_variables;
-  object["column_types"] = Json::array();
-  for (unsigned char const code : strategy.column_types()) {
-    object["column_types"].push_back(word_of(static_cast<ColumnType>(code)));
-  }
+void write_column_type(JsonWriter& writer, unsigned char const code) {
+  write_value(writer, static_cast<ColumnType>(code));
+}
+
+void write_columns(JsonWriter& writer, GenericStrategy& strategy) {
+  write_member(writer, "header_lines", known_count(strategy.valuation().header_lines));
+  write_member(writer, "num_columns", strategy.valuation().num_variables);
+  writer.key("column_types");
+  write_list(writer, strategy.column_types(), write_column_type);
 }
 
 /// The fallback is not kept, because nothing is known of it.
-Json comma_fallback() {
-  return {{"layout", word_of(StrategyMode::Delimited)},
-          {"delimiters", {","}},
-          {"widths", Json::array()},
-          {"header_lines", nullptr},
-          {"num_columns", nullptr},
-          {"column_types", Json::array()}};
+void write_comma_fallback(JsonWriter& writer) {
+  write_member(writer, "layout", StrategyMode::Delimited);
+  write_member(writer, "delimiters", std::vector<std::u16string>{u","});
+  write_member(writer, "widths", std::vector<std::size_t>());
+  write_member(writer, "header_lines", std::optional<std::size_t>());
+  write_member(writer, "num_columns", std::optional<std::size_t>());
+  write_member(writer, "column_types", std::vector<std::string>());
 }
 
-Json answer_of(DetectionReport const& report) {
+void write_answer(JsonWriter& writer, DetectionReport const& report) {
   if (report.outcome == Outcome::CommaFallback) {
-    return comma_fallback();
+    write_comma_fallback(writer);
+    return;
   }
   GenericStrategy& strategy = report.outcome == Outcome::Candidate && report.winner
                                   ? *report.candidates[*report.winner]
                                   : *report.line_reader;
-  Json object = reading(strategy);
-  add_columns(object, strategy);
-  return object;
+  write_reading(writer, strategy);
+  write_columns(writer, strategy);
 }
 
-Json scored(GenericStrategy& strategy) {
+void write_score(JsonWriter& writer, GenericStrategy& strategy) {
   auto const& score = strategy.valuation();
-  Json object = reading(strategy);
-  object["num_records"] = score.num_records;
-  object["typical_fields"] = score.typical_fields;
-  object["mean_deviation"] = json_value(score.mean_deviation);
-  object["data_variation"] = json_value(score.data_variation);
-  object["typed_columns"] = score.typed_columns;
-  object["numeric_columns"] = score.numeric_columns;
-  object["datetime_columns"] = score.datetime_columns;
-  object["date_columns"] = score.date_columns;
-  object["delimiter_columns"] = score.delimiter_columns;
-  object["prior_rank"] = json_value(score.prior_rank);
-  add_columns(object, strategy);
-  return object;
+  write_reading(writer, strategy);
+  write_member(writer, "num_records", score.num_records);
+  write_member(writer, "typical_fields", score.typical_fields);
+  write_member(writer, "mean_deviation", score.mean_deviation);
+  write_member(writer, "data_variation", score.data_variation);
+  write_member(writer, "typed_columns", score.typed_columns);
+  write_member(writer, "numeric_columns", score.numeric_columns);
+  write_member(writer, "datetime_columns", score.datetime_columns);
+  write_member(writer, "date_columns", score.date_columns);
+  write_member(writer, "delimiter_columns", score.delimiter_columns);
+  write_member(writer, "prior_rank", score.prior_rank);
+  write_columns(writer, strategy);
 }
 
-Json not_tried(std::u16string_view const sample, DetectionReport const& report) {
-  Json array = Json::array();
-  for (auto const& [character, why] : untried_characters(sample, report)) {
-    std::u16string text;
-    append_utf16(text, character);
-    array.push_back({{"character", json_value(text)}, {"why", word_of(why)}});
-  }
-  return array;
+void write_line_reader(JsonWriter& writer, GenericStrategy& strategy) {
+  writer.begin_object();
+  write_score(writer, strategy);
+  writer.end_object();
 }
 
-Json sampled(DetectionReport const& report) {
-  Json array = Json::array();
-  for (auto const& [strategy, fate, clause, candidate] : report.sampled) {
-    Json object = scored(*strategy);
-    object["fate"] = word_of(fate);
-    object["rejected_by"] = clause == RejectionClause::None ? Json() : Json(word_of(clause));
-    object["candidate"] = json_value(candidate);
-    array.push_back(std::move(object));
-  }
-  return array;
+void write_untried(JsonWriter& writer, UntriedCharacter const& untried) {
+  std::u16string text;
+  append_utf16(text, untried.character);
+  writer.begin_object();
+  write_member(writer, "character", text);
+  write_member(writer, "why", untried.why);
+  writer.end_object();
 }
 
-Json rules(DetectionReport const& report) {
-  Json array = Json::array();
-  for (auto const& step : report.steps) {
-    array.push_back({{"rule", step.rule},
-                     {"seen", step.seen},
-                     {"measures", json_value(step.measures)},
-                     {"survivors", step.survivors}});
-  }
-  return array;
+void write_sampled(JsonWriter& writer, SampledStrategy const& sampled) {
+  bool const is_rejected = sampled.clause != RejectionClause::None;
+  writer.begin_object();
+  write_score(writer, *sampled.strategy);
+  write_member(writer, "fate", sampled.fate);
+  write_member(writer, "rejected_by", is_rejected ? std::optional(sampled.clause) : std::nullopt);
+  write_member(writer, "candidate", sampled.candidate);
+  writer.end_object();
+}
+
+void write_rule_step(JsonWriter& writer, RuleStep const& step) {
+  writer.begin_object();
+  write_member(writer, "rule", step.rule);
+  write_member(writer, "seen", step.seen);
+  write_member(writer, "measures", step.measures);
+  write_member(writer, "survivors", step.survivors);
+  writer.end_object();
 }
 
 }  // namespace
 
-Json engine_answer(DetectionReport const& report) {
-  Json object = answer_of(report);
-  object["decided"] = report.outcome != Outcome::CommaFallback;
-  object["reason"] = word_of(report.reason);
-  object["outcome"] = word_of(report.outcome);
-  return object;
+void write_engine_answer(JsonWriter& writer, DetectionReport const& report) {
+  writer.begin_object();
+  write_answer(writer, report);
+  write_member(writer, "decided", report.outcome != Outcome::CommaFallback);
+  write_member(writer, "reason", report.reason);
+  write_member(writer, "outcome", report.outcome);
+  writer.end_object();
 }
 
-Json engine_story(std::u16string_view const sample, DetectionReport const& report) {
+void write_engine_story(JsonWriter& writer, std::u16string_view const sample,
+                        DetectionReport const& report) {
   EngineMargin const margin = engine_margin(report);
-  return {{"line_reader", scored(*report.line_reader)},
-          {"not_tried", not_tried(sample, report)},
-          {"sampled", sampled(report)},
-          {"rules", rules(report)},
-          {"winner", json_value(report.winner)},
-          {"runners_up", margin.runners_up},
-          {"margin", json_value(margin.margin)}};
+  writer.begin_object();
+  writer.key("line_reader");
+  write_line_reader(writer, *report.line_reader);
+  writer.key("not_tried");
+  write_list(writer, untried_characters(sample, report), write_untried);
+  writer.key("sampled");
+  write_list(writer, report.sampled, write_sampled);
+  writer.key("rules");
+  write_list(writer, report.steps, write_rule_step);
+  write_member(writer, "winner", report.winner);
+  write_member(writer, "runners_up", margin.runners_up);
+  write_member(writer, "margin", margin.margin);
+  writer.end_object();
 }
 
 }  // namespace textimport

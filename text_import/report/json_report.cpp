@@ -2,6 +2,10 @@
 
 #include "text_import/report/json_report.hpp"
 
+#include <optional>
+#include <string_view>
+#include <utility>
+
 #include "text_import/format/json_values_internal.hpp"
 #include "text_import/format/utf.hpp"
 #include "text_import/report/engine_json_internal.hpp"
@@ -11,153 +15,201 @@ namespace textimport {
 namespace {
 
 /// "schema" and the path; where that is no UTF-8 its bytes in hexadecimal too, so that it is not
-/// lost.
-Json object_about(std::string const& path) {
-  Json object{{"schema", json_schema}, {"path", path}};  // bad bytes are replaced when written
+/// lost. Leaves the object open.
+void begin_object_about(JsonWriter& writer, std::string const& path) {
+  writer.begin_object();
+  write_member(writer, "schema", json_schema);
+  write_member(writer, "path", std::string_view(path));
   if (!from_utf8(path)) {
-    object["path_bytes"] = hexadecimal(path);
+    write_member(writer, "path_bytes", std::string_view(hexadecimal(path)));
   }
-  return object;
 }
 
-Json certainty_object(Certainty const& certainty) {
-  return {{"layout", json_value(certainty.layout)},
-          {"table", json_value(certainty.table)},
-          {"columns", json_value(certainty.columns)}};
+std::string finished_line(JsonWriter&& writer) {
+  return std::move(writer).take() + '\n';
 }
 
-Json delimiter_of(Candidate const& candidate) {
-  return candidate.layout == Layout::Delimited ? json_value(candidate.delimiter) : Json();
+void write_certainty(JsonWriter& writer, Certainty const& certainty) {
+  writer.begin_object();
+  write_member(writer, "layout", certainty.layout);
+  write_member(writer, "table", certainty.table);
+  write_member(writer, "columns", certainty.columns);
+  writer.end_object();
 }
 
-Json runner_up_object(Evidence const& evidence) {
+void write_delimiter(JsonWriter& writer, Candidate const& candidate) {
+  writer.key("delimiter");
+  if (candidate.layout == Layout::Delimited) {
+    write_value(writer, candidate.delimiter);
+  } else {
+    writer.value(nullptr);
+  }
+}
+
+void write_noted_line(JsonWriter& writer, NotedLine const& noted) {
+  writer.begin_object();
+  write_member(writer, "line", noted.line);
+  write_member(writer, "role", noted.role);
+  writer.end_object();
+}
+
+void write_column_counts(JsonWriter& writer, ColumnEvidence const& column) {
+  writer.begin_object();
+  write_member(writer, "values", column.values);
+  write_member(writer, "fitting", column.fitting);
+  write_member(writer, "empty", column.empty);
+  write_member(writer, "longest_value", column.longest_value);
+  writer.end_object();
+}
+
+void write_runner_up(JsonWriter& writer, Evidence const& evidence) {
   if (!evidence.runner_up) {
-    return nullptr;
+    writer.value(nullptr);
+    return;
   }
   Candidate const& candidate = evidence.candidates[evidence.runner_up->candidate];
-  return {{"layout", word_of(candidate.layout)},
-          {"delimiter", delimiter_of(candidate)},
-          {"num_columns", candidate.num_columns},
-          {"certainty", json_value(evidence.runner_up->certainty)}};
+  writer.begin_object();
+  write_member(writer, "layout", candidate.layout);
+  write_delimiter(writer, candidate);
+  write_member(writer, "num_columns", candidate.num_columns);
+  write_member(writer, "certainty", evidence.runner_up->certainty);
+  writer.end_object();
 }
 
-Json noted_lines(Evidence const& evidence) {
-  Json array = Json::array();
-  for (auto const& [line, role] : evidence.lines) {
-    array.push_back({{"line", line}, {"role", word_of(role)}});
-  }
-  return array;
-}
-
-Json column_counts(Evidence const& evidence) {
-  Json array = Json::array();
-  for (ColumnEvidence const& column : evidence.columns) {
-    array.push_back({{"values", column.values},
-                     {"fitting", column.fitting},
-                     {"empty", column.empty},
-                     {"longest_value", column.longest_value}});
-  }
-  return array;
-}
-
-Json evidence_object(Analysis const& analysis, ReportSubject const& subject) {
+void write_evidence(JsonWriter& writer, Analysis const& analysis, ReportSubject const& subject) {
   Evidence const& evidence = analysis.evidence;
-  std::string const& reason = subject.encoding_reason;
-  return {{"lines_seen", evidence.lines_seen},
-          {"records_sampled", evidence.records_sampled},
-          {"goes_on", evidence.goes_on},
-          {"encoding_reason", reason.empty() ? Json() : Json(reason)},
-          {"lines", noted_lines(evidence)},
-          {"columns", column_counts(evidence)},
-          {"runner_up", runner_up_object(evidence)},
-          {"units_left_over", evidence.units_left_over},
-          {"repeated_names", json_value(evidence.repeated_names)},
-          {"engine", analysis.engine ? engine_answer(*analysis.engine) : Json()}};
+  std::string_view const reason = subject.encoding_reason;
+  writer.begin_object();
+  write_member(writer, "lines_seen", evidence.lines_seen);
+  write_member(writer, "records_sampled", evidence.records_sampled);
+  write_member(writer, "goes_on", evidence.goes_on);
+  write_member(writer, "encoding_reason", reason.empty() ? std::nullopt : std::optional(reason));
+  writer.key("lines");
+  write_list(writer, evidence.lines, write_noted_line);
+  writer.key("columns");
+  write_list(writer, evidence.columns, write_column_counts);
+  writer.key("runner_up");
+  write_runner_up(writer, evidence);
+  write_member(writer, "units_left_over", evidence.units_left_over);
+  write_member(writer, "repeated_names", evidence.repeated_names);
+  writer.key("engine");
+  if (analysis.engine) {
+    write_engine_answer(writer, *analysis.engine);
+  } else {
+    writer.value(nullptr);
+  }
+  writer.end_object();
 }
 
-Json violation_object(std::optional<Violation> const& violation) {
+void write_violation(JsonWriter& writer, std::optional<Violation> const& violation) {
   if (!violation) {
-    return nullptr;
+    writer.value(nullptr);
+    return;
   }
-  auto const& [offset, line, column] = violation->position;
-  return {
-      {"rule", word_of(violation->rule)}, {"offset", offset}, {"line", line}, {"column", column}};
+  writer.begin_object();
+  write_member(writer, "rule", violation->rule);
+  write_member(writer, "offset", violation->position.offset);
+  write_member(writer, "line", violation->position.line);
+  write_member(writer, "column", violation->position.column);
+  writer.end_object();
 }
 
-Json report_object(Analysis const& analysis, ReportSubject const& subject) {
-  Json object = object_about(subject.path);
-  object["decided"] = analysis.decided;
-  object["reason"] = word_of(analysis.reason);
-  object["certainty"] = certainty_object(analysis.certainty);
-  object["num_columns"] = analysis.format.columns.size();
-  object["format"] = format_object(analysis.format);
-  object["evidence"] = evidence_object(analysis, subject);
-  object["violation"] = violation_object(analysis.violation);
-  object["warnings"] = subject.notes;
-  return object;
+void write_warning(JsonWriter& writer, std::string_view const sentence) {
+  writer.value(sentence);
 }
 
-Json hypotheses(Evidence const& evidence) {
-  Json array = Json::array();
-  for (Hypothesis const& hypothesis : evidence.hypotheses) {
-    array.push_back({{"quotes_are_ordinary", hypothesis.quotes_are_ordinary},
-                     {"apostrophes_quote", hypothesis.apostrophes_quote},
-                     {"comment_markers", json_value(hypothesis.comment_markers)}});
-  }
-  return array;
+/// Leaves the object open.
+void begin_report(JsonWriter& writer, Analysis const& analysis, ReportSubject const& subject) {
+  begin_object_about(writer, subject.path);
+  write_member(writer, "decided", analysis.decided);
+  write_member(writer, "reason", analysis.reason);
+  writer.key("certainty");
+  write_certainty(writer, analysis.certainty);
+  write_member(writer, "num_columns", analysis.format.columns.size());
+  writer.key("format");
+  write_format(writer, analysis.format);
+  writer.key("evidence");
+  write_evidence(writer, analysis, subject);
+  writer.key("violation");
+  write_violation(writer, analysis.violation);
+  writer.key("warnings");
+  write_list(writer, subject.notes, write_warning);
 }
 
-Json rules(Evidence const& evidence) {
-  Json array = Json::array();
-  for (RuleText const& rule : evidence.rules) {
-    array.push_back({{"name", rule.name}, {"meaning", rule.meaning}});
-  }
-  return array;
+void write_hypothesis(JsonWriter& writer, Hypothesis const& hypothesis) {
+  writer.begin_object();
+  write_member(writer, "quotes_are_ordinary", hypothesis.quotes_are_ordinary);
+  write_member(writer, "apostrophes_quote", hypothesis.apostrophes_quote);
+  write_member(writer, "comment_markers", hypothesis.comment_markers);
+  writer.end_object();
 }
 
-Json candidates(Evidence const& evidence) {
-  Json array = Json::array();
-  for (Candidate const& candidate : evidence.candidates) {
-    array.push_back({{"hypothesis", candidate.hypothesis},
-                     {"layout", word_of(candidate.layout)},
-                     {"delimiter", delimiter_of(candidate)},
-                     {"num_columns", candidate.num_columns},
-                     {"coverage", json_value(candidate.coverage)},
-                     {"soundness", json_value(candidate.soundness)},
-                     {"rule", json_value(candidate.rule)},
-                     {"measure", candidate.rule ? json_value(candidate.measure) : Json()}});
-  }
-  return array;
+void write_rule(JsonWriter& writer, RuleText const& rule) {
+  writer.begin_object();
+  write_member(writer, "name", rule.name);
+  write_member(writer, "meaning", rule.meaning);
+  writer.end_object();
 }
 
-Json explanation_object(Analysis const& analysis) {
+void write_candidate(JsonWriter& writer, Candidate const& candidate) {
+  writer.begin_object();
+  write_member(writer, "hypothesis", candidate.hypothesis);
+  write_member(writer, "layout", candidate.layout);
+  write_delimiter(writer, candidate);
+  write_member(writer, "num_columns", candidate.num_columns);
+  write_member(writer, "coverage", candidate.coverage);
+  write_member(writer, "soundness", candidate.soundness);
+  write_member(writer, "rule", candidate.rule);
+  write_member(writer, "measure", candidate.rule ? std::optional(candidate.measure) : std::nullopt);
+  writer.end_object();
+}
+
+void write_explanation(JsonWriter& writer, Analysis const& analysis) {
   Evidence const& evidence = analysis.evidence;
-  return {{"hypotheses", hypotheses(evidence)},
-          {"rules", rules(evidence)},
-          {"candidates", candidates(evidence)},
-          {"winner", json_value(evidence.winner)},
-          {"engine", analysis.engine ? engine_story(analysis.lines.text(), *analysis.engine) : Json()}};
+  writer.begin_object();
+  writer.key("hypotheses");
+  write_list(writer, evidence.hypotheses, write_hypothesis);
+  writer.key("rules");
+  write_list(writer, evidence.rules, write_rule);
+  writer.key("candidates");
+  write_list(writer, evidence.candidates, write_candidate);
+  write_member(writer, "winner", evidence.winner);
+  writer.key("engine");
+  if (analysis.engine) {
+    write_engine_story(writer, analysis.lines.text(), *analysis.engine);
+  } else {
+    writer.value(nullptr);
+  }
+  writer.end_object();
 }
 
 }  // namespace
 
 std::string report_json(Analysis const& analysis, ReportSubject const& subject) {
-  return compact_text(report_object(analysis, subject)) + '\n';
+  JsonWriter writer;
+  begin_report(writer, analysis, subject);
+  writer.end_object();
+  return finished_line(std::move(writer));
 }
 
 std::string explanation_json(Analysis const& analysis, ReportSubject const& subject) {
-  Json object = report_object(analysis, subject);
-  object["explanation"] = explanation_object(analysis);
-  return compact_text(object) + '\n';
+  JsonWriter writer;
+  begin_report(writer, analysis, subject);
+  writer.key("explanation");
+  write_explanation(writer, analysis);
+  writer.end_object();
+  return finished_line(std::move(writer));
 }
 
 std::string error_json(std::string const& path, ImportError const& error) {
-  Json object = object_about(path);
-  object["decided"] = false;
-  object["error"] = name_of(error.kind());
-  object["message"] = error.message();
-  object["byte_offset"] = json_value(error.byte_offset());
-  return compact_text(object) + '\n';
+  JsonWriter writer;
+  begin_object_about(writer, path);
+  write_member(writer, "decided", false);
+  write_member(writer, "error", std::string_view(name_of(error.kind())));
+  write_member(writer, "message", std::string_view(error.message()));
+  write_member(writer, "byte_offset", error.byte_offset());
+  writer.end_object();
+  return finished_line(std::move(writer));
 }
 
 }  // namespace textimport
