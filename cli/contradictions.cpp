@@ -203,6 +203,10 @@ void check_contradictions(Arguments const& arguments, Request const& request) {
   check_counts(arguments, request);
   check_marks(arguments, request);
   check_delimiters(arguments, request);
+  if (arguments.has(Option::Library) && arguments.has(Option::ExcludeDelimiter)) {
+    refuse(flag(Option::Library), typed(arguments, Option::ExcludeDelimiter),
+           "the library decides by itself which delimiters there are");
+  }
   check_inputs(arguments);
   check_output(arguments);
 }

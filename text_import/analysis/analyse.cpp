@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "text_format_detection/detection/evaluate_strategy.hpp"
 #include "text_format_detection/model/field_array.hpp"
 #include "text_import/analysis/analysis.hpp"
 #include "text_import/analysis/checking/rule_check_internal.hpp"
@@ -72,8 +73,9 @@ class Analyst {
       auto const found = std::ranges::find(readings(), decision, &Reading::strategy);
       weighed.winner = static_cast<std::size_t>(found - readings().begin());
       if (found == readings().end()) {
-        readings().push_back(
-            analysis::measure_records(decision, found_.lines, task_.request.values));
+        textio::evaluate_strategy(decision, textio::Field(found_.lines.text()),
+                                  task_.request.records);
+        readings().push_back(analysis::measure_records(decision, found_.lines, task_));
       }
       measure_values(readings()[*weighed.winner]);
     }
@@ -101,6 +103,7 @@ class Analyst {
     evidence.lines_seen = found_.lines.count();
     evidence.records_sampled = found_.strategy->field_array()->num_records();
     evidence.goes_on = task_.goes_on;
+    evidence.expected_columns = task_.request.num_columns;
   }
 
   void judge() {

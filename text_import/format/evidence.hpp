@@ -120,6 +120,8 @@ struct Evidence {
   std::size_t lines_seen = 0;       ///< physical lines of the sample
   std::size_t records_sampled = 0;  ///< lines above the data are among them
   bool goes_on = false;             ///< the text goes on behind the sample
+  /// How many columns the caller expects, if he says so.
+  std::optional<std::size_t> expected_columns;
   /// Fixed-width layouts that were given: the largest number of code units of a line of data that
   /// the widths leave over at its end.
   std::size_t units_left_over = 0;

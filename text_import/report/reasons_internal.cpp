@@ -208,8 +208,9 @@ std::string why(Analysis const& analysis) {
     case Reason::Unsure:
       return "too little speaks for the best reading: " + why_table(analysis);
     case Reason::ColumnsDiffer:
-      return fmt::format("it has {}, and another number is expected",
-                         counted(analysis.format.columns.size(), "column"));
+      return fmt::format("it has {}, where {} are expected",
+                         counted(analysis.format.columns.size(), "column"),
+                         analysis.evidence.expected_columns.value_or(0));
     case Reason::LayoutNotFound:
       return "nothing splits the lines as the given layout asks for";
     case Reason::StartNotFound:

@@ -109,7 +109,7 @@ class ReadingCollector {
     // All lines that were profiled: the table may stand behind a long preamble.
     textio::evaluate_strategy(strategy, textio::Field(lines_.text()),
                               std::max(task_.request.records, lines_profiled));
-    found_.readings.push_back(measure_records(strategy, lines_, task_.request.values, &best));
+    found_.readings.push_back(measure_records(strategy, lines_, task_, &best));
     found_.readings.back().agreement = best.agreement();
   }
 
@@ -139,7 +139,10 @@ class ReadingCollector {
   }
 
   void add(std::shared_ptr<textio::GenericStrategy> strategy) {
-    Reading r = measure_records(std::move(strategy), lines_, task_.request.values);
+    Reading r = measure_records(std::move(strategy), lines_, task_);
+    if (task_.splits_are_given()) {
+      take_single_column(r);
+    }
     r.hypothesis = hypothesis_;
     if (is_excluded(r)) {
       return;

@@ -210,10 +210,19 @@ class ValueCount {
   double weights_ = 0;
 };
 
+/// Those that are one code unit long.
+std::u16string excluded_characters(Request const& request) {
+  std::u16string characters;
+  for (std::u16string const& delimiter : request.excluded_delimiters) {
+    characters += delimiter.size() == 1 ? delimiter : std::u16string();
+  }
+  return characters;
+}
+
 }  // namespace
 
 Reading measure_records(std::shared_ptr<textio::GenericStrategy> strategy, LineIndex const& lines,
-                        ValueRequest const& values, ColumnProfile const* const profile) {
+                        Task const& task, ColumnProfile const* const profile) {
   Reading r;
   r.strategy = std::move(strategy);
   r.layout = layout_of(r.strategy->mode());
@@ -221,7 +230,7 @@ Reading measure_records(std::shared_ptr<textio::GenericStrategy> strategy, LineI
     r.delimiter = r.strategy->options().delimiters.front();
   }
   r.quote = quote_of(r.strategy->options());
-  r.values = ValueGrammar(r.quote, values);
+  r.values = ValueGrammar(r.quote, task.request.values, excluded_characters(task.request));
   place_records(r, lines);
   if (profile != nullptr) {
     count_fitting_lines(r, lines, *profile);
@@ -238,6 +247,12 @@ std::optional<Reading> measure_last_block(Reading const& r) {
   Reading last = r;
   set_block(last, block);
   return last;
+}
+
+void take_single_column(Reading& r) {
+  if (r.block.regular == 0) {
+    set_block(r, best_block(r.records, 1));
+  }
 }
 
 void measure_values(Reading& r) {

@@ -13,6 +13,7 @@
 #include "text_format_detection/strategies/generic_strategy.hpp"
 #include "text_import/analysis/lines/line_index.hpp"
 #include "text_import/analysis/readings/column_profile_internal.hpp"
+#include "text_import/analysis/readings/task_internal.hpp"
 #include "text_import/analysis/values/value_grammar_internal.hpp"
 #include "text_import/format/evidence.hpp"
 
@@ -60,12 +61,16 @@ struct Reading {
 /// The measures of what a strategy of the engine sampled. `profile`, for fixed widths only, tells
 /// which lines belong to the table; elsewhere the number of fields does.
 [[nodiscard]] Reading measure_records(std::shared_ptr<textio::GenericStrategy> strategy,
-                                      LineIndex const& lines, ValueRequest const& values,
+                                      LineIndex const& lines, Task const& task,
                                       ColumnProfile const* profile = nullptr);
 
 /// The same strategy with the table at the end of the text, where that is another one than the
 /// largest: titles and notes may look like a larger table.
 [[nodiscard]] std::optional<Reading> measure_last_block(Reading const& r);
+
+/// Takes the records of one field for the block, where there is none of several columns: the caller
+/// says what splits the lines, and nothing does.
+void take_single_column(Reading& r);
 
 /// Looks at values of the block: soundness and types. Dearer than the measures of records.
 void measure_values(Reading& r);

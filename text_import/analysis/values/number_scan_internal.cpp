@@ -32,8 +32,10 @@ class NumberScan {
     }
     take_exponent();
     if (!rest_.empty()) {
-      drop_one_of(u" ");
-      drop_one_of(u"%\u2030\u20AC$");
+      bool const has_blank = drop_one_of(u" ");
+      if (!drop_one_of(u"%\u2030\u20AC$") && has_blank) {
+        return std::nullopt;
+      }
     }
     return rest_.empty() ? std::optional(number_) : std::nullopt;
   }
@@ -133,7 +135,8 @@ class NumberScan {
     } else {
       number_.marks = {0, mark, are_decimals()};
     }
-    return decimals || groups;
+    bool const has_too_many_decimals = mark == u'.' && groups_[1] > rules_.max_decimals;
+    return decimals || (groups && !has_too_many_decimals);
   }
 
   void take_exponent() noexcept {

@@ -15,8 +15,8 @@ namespace {
 using view = std::u16string_view;
 
 // What a character says of the text that it stands in.
-constexpr std::uint8_t no_number = 1;  ///< it stands in no number
-constexpr std::uint8_t no_group = 2;   ///< it is neither digit nor point
+constexpr std::uint8_t no_number = 1;   ///< it stands in no number
+constexpr std::uint8_t no_group = 2;    ///< it is neither digit nor point
 constexpr std::uint8_t is_special = 4;  ///< it has to be looked at, some with what is behind it
 
 constexpr std::uint8_t kind_of_ascii(char16_t const c) {
@@ -24,10 +24,9 @@ constexpr std::uint8_t kind_of_ascii(char16_t const c) {
   constexpr view in_numbers = u"0123456789.+-dDeE";
   constexpr view in_groups = u"0123456789.";
   bool const is_control = c < u' ' && c != u'\n' && c != u'\r';
-  return static_cast<std::uint8_t>(
-      (in_numbers.find(c) == view::npos ? no_number : 0U) |
-      (in_groups.find(c) == view::npos ? no_group : 0U) |
-      (is_control || special.find(c) != view::npos ? is_special : 0U));
+  return static_cast<std::uint8_t>((in_numbers.find(c) == view::npos ? no_number : 0U) |
+                                   (in_groups.find(c) == view::npos ? no_group : 0U) |
+                                   (is_control || special.find(c) != view::npos ? is_special : 0U));
 }
 
 constexpr std::array<std::uint8_t, 128> ascii_kinds = [] {
@@ -41,13 +40,13 @@ constexpr std::array<std::uint8_t, 128> ascii_kinds = [] {
 /// What stands in a text, met from left to right.
 class TextScan {
  public:
-  TextScan(view const text, char16_t const quote) noexcept {
+  TextScan(view const text, char16_t const quote, view const ordinary) noexcept {
     for (std::size_t i = 0; i < text.size(); ++i) {
       char16_t const c = text[i];
       unsigned const kind = c < ascii_kinds.size() ? ascii_kinds[c] : no_number | no_group;
       kinds_ |= kind;
       num_quotes_ += c == quote ? 1U : 0U;
-      if ((kind & is_special) != 0) {
+      if ((kind & is_special) != 0 && ordinary.find(c) == view::npos) {
         take_special(c, text.substr(i + 1));
       }
     }
@@ -123,8 +122,8 @@ class TextScan {
 
 }  // namespace
 
-ValueShape shape_of_text(view const text, char16_t const quote) noexcept {
-  TextScan const scan(text, quote);
+ValueShape shape_of_text(view const text, char16_t const quote, view const ordinary) noexcept {
+  TextScan const scan(text, quote, ordinary);
   if (scan.is_address()) {
     return ValueShape::Word;
   }

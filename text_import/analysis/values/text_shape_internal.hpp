@@ -10,7 +10,9 @@
 
 namespace textimport::analysis {
 
-/// Word, Phrase or Broken. `quote` 0: there are no quotes. Linear in the text.
-[[nodiscard]] ValueShape shape_of_text(std::u16string_view text, char16_t quote) noexcept;
+/// Word, Phrase or Broken. `quote` 0: there are no quotes. Delimiters among the `ordinary`
+/// characters may stand in any value. Linear in the text.
+[[nodiscard]] ValueShape shape_of_text(std::u16string_view text, char16_t quote,
+                                       std::u16string_view ordinary) noexcept;
 
 }  // namespace textimport::analysis

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 
 #include "text_format_detection/platform/ascii_internal.hpp"
 #include "text_format_detection/platform/datetime.hpp"
@@ -108,8 +109,10 @@ ValueShape shape_of_usual_date(view const text) {
 
 }  // namespace
 
-ValueGrammar::ValueGrammar(char16_t const quote, ValueRequest const& request)
+ValueGrammar::ValueGrammar(char16_t const quote, ValueRequest const& request,
+                           std::u16string ordinary)
     : quote_(quote),
+      ordinary_(std::move(ordinary)),
       numbers_(number_rules(request)),
       missing_words_(request.missing_words),
       date_pattern_(request.date_pattern),
@@ -221,7 +224,7 @@ ValueLook ValueGrammar::look_at(view const field) const {
   ValueLook look = look_inside(value);
   look.quoted = stands_in(text, quote_);
   if (look.shape == ValueShape::Word) {
-    look.shape = shape_of_text(value, quote_);
+    look.shape = shape_of_text(value, quote_, ordinary_);
   }
   bool const opens = quote_ != 0 && text.starts_with(quote_);
   if (opens && !look.quoted) {

@@ -27,8 +27,9 @@ namespace textimport::analysis {
 ///   a date. A pattern of a date alone lets a time of day stand beside it.
 class ValueGrammar {
  public:
-  /// `quote` 0: there are no quotes.
-  ValueGrammar(char16_t quote, ValueRequest const& request);
+  /// `quote` 0: there are no quotes. `ordinary`: characters that are no delimiters, though others
+  /// like them usually are.
+  ValueGrammar(char16_t quote, ValueRequest const& request, std::u16string ordinary = {});
 
   /// Looks at one field. Linear in the text.
   [[nodiscard]] ValueLook look_at(std::u16string_view field) const;
@@ -52,6 +53,7 @@ class ValueGrammar {
   [[nodiscard]] ValueShape shape_by_pattern(std::u16string_view text) const;
 
   char16_t quote_;
+  std::u16string ordinary_;
   NumberRules numbers_;
   std::optional<std::vector<std::u16string>> missing_words_;
   std::u16string date_pattern_;
