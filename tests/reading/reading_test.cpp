@@ -8,6 +8,7 @@
 #include "tests/support/table.hpp"
 #include "tests/support/text.hpp"
 #include "text_format_detection/reading/delimited_scanner_internal.hpp"
+#include "text_format_detection/reading/read_records.hpp"
 #include "text_format_detection/reading/read_with_mode_internal.hpp"
 
 namespace {
