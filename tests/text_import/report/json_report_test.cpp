@@ -91,6 +91,7 @@ TEST(json_values, round_numbers_to_what_they_mean) {
   EXPECT_EQ(written(1.0 / 3), "0.3333");
   EXPECT_EQ(written(-2.5), "-2.5");
   EXPECT_EQ(written(1e9), "1000000000.0");
+  EXPECT_EQ(written(-0.0), "-0.0");
   EXPECT_EQ(written(1.8446744073709552e19), "null");
   EXPECT_EQ(written(std::numeric_limits<double>::infinity()), "null");
   EXPECT_EQ(written(std::nan("")), "null");

@@ -11,7 +11,6 @@
 #include "tests/support/table.hpp"
 #include "tests/support/text.hpp"
 #include "text_import/format/utf.hpp"
-#include "text_import/report/broken_rules.hpp"
 
 namespace textimport {
 namespace {
@@ -154,65 +153,6 @@ TEST(report, in_one_line) {
     std::ranges::replace(line, '\t', '|');
     EXPECT_EQ(line, row.cells[1] + "\n");
   });
-}
-
-TEST(report, explanation_tells_hypotheses_readings_and_rules) {
-  std::u16string const text =
-      u"1;8\" disk;2024-01-31\n"
-      u"2;disk;2024-02-01\n"
-      u"3;disk;2024-02-02\n";
-  EXPECT_EQ(explanation(analysis_of(text), made, {}), R"(made.txt
-  answer        semicolon, 3 columns, data from line 1 on
-  how sure      99 %, nearly certain
-  why           every line has 3 fields at semicolons, 2 of 3 columns hold
-                numbers or dates; no other reading as a table holds
-
-What was assumed
-  A  what is given, and the usual where nothing is
-  B  quotes are ordinary characters: a line holds an odd number of quotes
-
-All readings; records: the share of the text's records that have these columns
-  #  reading    columns  records  soundness  assumed
-  -  ---------  -------  -------  ---------  -------
-  1  semicolon        3    100 %       0.84  A
-  2  semicolon        3    100 %       0.91  B
-
-Rules at which readings fall
-  1. best_fit: what explains about as much of the text as the best; coverage
-               times soundness
-    1 of 2 fall: #1 semicolon: 0.8444
-
-What is left
-  #2 semicolon, 3 columns
-
-The engine's own decision
-  answer        semicolon, 3 columns, 0 header lines
-  why           the only reading that was tried, and it splits the lines
-                regularly
-
-First each line was read as one value
-  #  reading      columns  irregular  typed  header  outcome
-  -  -----------  -------  ---------  -----  ------  -------
-  -  whole lines        1       none    1/1       0
-
-Characters in the middle lines of the sample
-    tried: see the readings below
-    not tried: letters and digits, and of the others
-      quotation mark, "-": never delimiters: quotes, brackets and signs belong
-      to values
-      space: only in the first and last lines, where titles and sums stand
-
-Readings that were tried; irregular must be below 1
-  #  reading    columns  irregular  typed  header  outcome
-  -  ---------  -------  ---------  -----  ------  --------
-  1  semicolon        3          0    3/3       0  accepted
-)");
-}
-
-TEST(report, every_broken_rule_has_a_meaning_of_its_own) {
-  EXPECT_EQ(meaning_of(BrokenRule::ConsecutiveDelimiters),
-            "a delimiter directly follows another one");
-  EXPECT_EQ(meaning_of(BrokenRule::PartialField), "the line ends inside a column");
 }
 
 }  // namespace
