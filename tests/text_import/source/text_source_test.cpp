@@ -33,6 +33,15 @@ void* operator new(std::size_t const size) {
   return memory;
 }
 
+// The sanitizers have one of their own, whose memory the operators below must not free.
+void* operator new(std::size_t const size, std::nothrow_t const& /*tag*/) noexcept {
+  try {
+    return operator new(size);
+  } catch (std::bad_alloc const&) {
+    return nullptr;
+  }
+}
+
 // Not inlined: the compiler would take free() for the wrong counterpart of new.
 [[gnu::noinline]] void operator delete(void* const memory) noexcept {
   bytes_in_use -= ::malloc_usable_size(memory);
