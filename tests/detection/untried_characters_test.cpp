@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // The characters that a decision left aside, and what it says of each.
+#include "text_format_detection/detection/untried_characters.hpp"
+
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -11,7 +13,6 @@
 #include "tests/support/table.hpp"
 #include "tests/support/text.hpp"
 #include "text_format_detection/detection/strategy_selector.hpp"
-#include "text_format_detection/detection/untried_characters.hpp"
 
 namespace {
 

@@ -33,7 +33,7 @@ std::string unescaped(std::string const& field) {
 }  // namespace
 
 void for_each_row(std::string const& table, std::function<void(cells const&)> const& check) {
-  support::for_each_row("text_import/tables/" + table, [&check](support::Row const& row) {
+  support::for_each_row("text_import/" + table, [&check](support::Row const& row) {
     cells row_cells;
     std::transform(row.cells.begin(), row.cells.end(), std::back_inserter(row_cells), unescaped);
     row_cells.resize(8);

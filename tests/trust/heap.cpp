@@ -17,7 +17,8 @@ constexpr std::size_t header = alignof(std::max_align_t);  // keeps the size of 
 
 }  // namespace
 
-// Every other form of new and delete comes down to these.
+// Every other form of new and delete comes down to these, if need be by the one for `nothrow`: the
+// sanitizers have one of their own.
 void* operator new(std::size_t const size) {
   auto& heap = trust::heap;
   ++heap.calls;
@@ -31,6 +32,14 @@ void* operator new(std::size_t const size) {
   heap.live_bytes += size;
   heap.peak_bytes = std::max(heap.peak_bytes, heap.live_bytes);
   return static_cast<char*>(block) + header;
+}
+
+void* operator new(std::size_t const size, std::nothrow_t const& /*tag*/) noexcept {
+  try {
+    return operator new(size);
+  } catch (std::bad_alloc const&) {
+    return nullptr;
+  }
 }
 
 void operator delete(void* const room) noexcept {

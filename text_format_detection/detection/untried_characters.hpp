@@ -27,10 +27,10 @@ struct UntriedCharacter {
   NotTried why = NotTried::OutsideMiddle;
 };
 
-/// The distinct characters of a decision's sample, ascending, that no sampled strategy was delimited
-/// by: of the whole sample up to its end mark, not only of the records that were read. ASCII letters
-/// and digits, line feeds and carriage returns are left out. Where no candidates were made of
-/// characters (see Reason), those that might have been are OutsideMiddle.
+/// The distinct characters of a decision's sample, ascending, that no sampled strategy was
+/// delimited by: of the whole sample up to its end mark, not only of the records that were read.
+/// ASCII letters and digits, line feeds and carriage returns are left out. Where no candidates were
+/// made of characters (see Reason), those that might have been are OutsideMiddle.
 ///
 /// Linear in the sample; memory in its distinct characters. Throws std::bad_alloc.
 [[nodiscard]] TFD_API std::vector<UntriedCharacter> untried_characters(

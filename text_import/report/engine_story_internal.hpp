@@ -11,8 +11,8 @@
 
 namespace textimport::reporting {
 
-/// The engine's answer about the sample, the characters and readings that it tried, and the rules that compared
-/// them.
+/// The engine's answer about the sample, the characters and readings that it tried, and the rules
+/// that compared them.
 [[nodiscard]] std::string engine_story(std::u16string_view sample,
                                        textio::detection::DetectionReport const& engine,
                                        ReportStyle const& style);

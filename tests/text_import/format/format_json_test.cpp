@@ -94,7 +94,7 @@ TEST(format_json, has_defaults_but_for_schema_and_layout) {
 
 TEST(format_json, says_what_is_wrong_and_where) {
   auto const sound = nlohmann::json::parse(to_json(made::usual_format()));
-  support::for_each_row("text_import/tables/wrong_formats.tsv", [&](support::Row const& row) {
+  support::for_each_row("text_import/format/wrong_formats.tsv", [&](support::Row const& row) {
     nlohmann::json operation{{"op", row.cells.at(0)}, {"path", row.cells.at(1)}};
     if (row.cells.at(0) != "remove") {
       operation["value"] = row.value(2);
@@ -107,7 +107,7 @@ TEST(format_json, says_what_is_wrong_and_where) {
 }
 
 TEST(format_json, says_where_a_text_is_no_json) {
-  support::for_each_row("text_import/tables/no_json.tsv", [](support::Row const& row) {
+  support::for_each_row("text_import/format/no_json.tsv", [](support::Row const& row) {
     FormatParse const parse = format_from_json(row.cells.at(0));
     EXPECT_FALSE(parse.format);
     EXPECT_TRUE(parse.error.starts_with(row.cells.at(1))) << parse.error;

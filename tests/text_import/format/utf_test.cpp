@@ -22,7 +22,7 @@ std::string units_of(std::u16string const& text) {
 }
 
 TEST(utf, reads_utf8_and_refuses_everything_else) {
-  made::for_each_row("utf8.tsv", [](made::cells const& row) {
+  made::for_each_row("format/utf8.tsv", [](made::cells const& row) {
     SCOPED_TRACE(row[2]);
     std::optional<std::u16string> const text = from_utf8(row[0]);
     EXPECT_EQ(text ? units_of(*text) : "bad", row[1]);
@@ -34,7 +34,7 @@ TEST(utf, reads_utf8_and_refuses_everything_else) {
 }
 
 TEST(utf, writes_the_replacement_character_for_lone_surrogates) {
-  support::for_each_row("text_import/tables/lone_surrogates.tsv", [](support::Row const& row) {
+  support::for_each_row("text_import/format/lone_surrogates.tsv", [](support::Row const& row) {
     auto const text = support::value_of<std::u16string>(row.value(0));
     EXPECT_EQ(to_utf8(text), row.cells.at(1));
     EXPECT_EQ(has_lone_surrogate(text), row.cells.at(2) == "lone");

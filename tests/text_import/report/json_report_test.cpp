@@ -112,7 +112,7 @@ textio::detection::DetectionReport ranked(std::vector<double> const& measures,
 }
 
 TEST(engine_margin, is_that_of_the_nearest) {
-  support::for_each_row("text_import/tables/engine_margins.tsv", [](support::Row const& row) {
+  support::for_each_row("text_import/report/engine_margins.tsv", [](support::Row const& row) {
     std::vector<double> measures;
     for (json const& measure : row.value(0)) {
       measures.push_back(measure.is_null() ? std::numeric_limits<double>::infinity()

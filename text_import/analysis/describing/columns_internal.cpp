@@ -45,7 +45,8 @@ class ColumnSummary {
     ++counts_.values;
     ++shapes_[static_cast<std::size_t>(look.shape)];
     quoted_ += look.quoted ? 1U : 0U;
-    counts_.longest_value = std::max(counts_.longest_value, is_ascii_ ? text.size() : count_characters(text));
+    counts_.longest_value =
+        std::max(counts_.longest_value, is_ascii_ ? text.size() : count_characters(text));
     column_.leading_zeros = column_.leading_zeros || look.leading_zeros;
     add_marks(look.marks);
     if (look.shape == ValueShape::Date || look.shape == ValueShape::DateTime) {

@@ -16,7 +16,8 @@ namespace textimport {
 
 /// The lines of a text, which ends at its length or its first U+FFFF, as an editor numbers them,
 /// counted from 0, whatever quotes and comments they are part of. A line ending behind the last
-/// line starts no further one. Refers to the text, which must outlive it. Positions count code units from the text's start.
+/// line starts no further one. Refers to the text, which must outlive it. Positions count code
+/// units from the text's start.
 class TEXT_IMPORT_API LineIndex {
  public:
   /// An index of no text.

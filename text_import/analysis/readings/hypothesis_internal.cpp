@@ -7,7 +7,6 @@
 #include <optional>
 
 #include "text_format_detection/model/unit_search_internal.hpp"
-
 #include "text_import/analysis/values/text_internal.hpp"
 
 namespace textimport::analysis {

@@ -26,8 +26,7 @@ inline constexpr std::array<std::u16string_view, 13> usual_missing_words{
     u"na", u"n/a", u"null", u"nil", u"none", u"#n/a",   u"\\n",
     u"-",  u"--",  u"?",    u".",   u"*",    u"missing"};
 
-inline constexpr std::array<std::u16string_view, 4> boolean_words{u"true", u"false", u"yes",
-                                                                  u"no"};
+inline constexpr std::array<std::u16string_view, 4> boolean_words{u"true", u"false", u"yes", u"no"};
 
 /// For each ASCII character in lower case, whether one of the words begins with it, or a NaN or an
 /// infinity, which may have a sign.

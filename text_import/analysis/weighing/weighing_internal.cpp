@@ -39,6 +39,7 @@ void run_rule(std::size_t const rule, std::vector<Reading> const& readings, Kept
 
 std::vector<RuleText> rule_texts() {
   std::vector<RuleText> texts;
+  texts.reserve(all_rules.size());
   for (WeighingRule const* const rule : all_rules) {
     texts.push_back({rule->name, rule->meaning, rule->measure_is_share});
   }

@@ -30,8 +30,9 @@ std::string encoded(char const* const encoding, std::string const& utf8) {
 
 TEST(encoding, is_found_in_tables_and_gives_their_text) {
   std::map<std::string, std::string> texts;
-  made::for_each_row("texts.tsv", [&](made::cells const& row) { texts[row[0]] = row[1]; });
-  made::for_each_row("encoding.tsv", [&](made::cells const& row) {
+  made::for_each_row("source/encoding/texts.tsv",
+                     [&](made::cells const& row) { texts[row[0]] = row[1]; });
+  made::for_each_row("source/encoding/encoding.tsv", [&](made::cells const& row) {
     SCOPED_TRACE(row[0] + " " + row[1] + " " + row[3]);
     std::string const bytes = row[2] + encoded(row[0].c_str(), texts.at(row[3]));
     std::u16string const text = made::utf16(texts.at(row[3]));
@@ -49,7 +50,7 @@ TEST(encoding, is_found_in_tables_and_gives_their_text) {
 }
 
 TEST(encoding, of_odd_bytes_is_decided_for_a_reason) {
-  made::for_each_row("encoding_of_odd_bytes.tsv", [&](made::cells const& row) {
+  made::for_each_row("source/encoding/encoding_of_odd_bytes.tsv", [&](made::cells const& row) {
     EncodingFinding const found = find_encoding(row[0], row[1] == "ends");
     EXPECT_EQ(found.name, row[2]) << row[0];
     EXPECT_EQ(name_of(found.reason), row[3]) << row[0];
@@ -57,7 +58,7 @@ TEST(encoding, of_odd_bytes_is_decided_for_a_reason) {
 }
 
 TEST(encoding, is_given_by_any_of_its_names_or_near_ones_are_proposed) {
-  made::for_each_row("encoding_given.tsv", [&](made::cells const& row) {
+  made::for_each_row("source/encoding/encoding_given.tsv", [&](made::cells const& row) {
     try {
       EncodingFinding const found = given_encoding(row[0], row[1], "made");
       EXPECT_EQ(found.name, row[2]) << row[0];

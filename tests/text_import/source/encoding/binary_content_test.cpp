@@ -16,7 +16,7 @@ using made::Outcome;
 using made::read_all;
 
 TEST(binary_content, is_named_and_is_not_what_only_begins_alike) {
-  made::for_each_row("binary_content.tsv", [&](made::cells const& row) {
+  made::for_each_row("source/encoding/binary_content.tsv", [&](made::cells const& row) {
     Outcome const read = read_all(row[0]);
     SCOPED_TRACE(row[1] + " " + row[0] + ": " + read.message);
     EXPECT_EQ(read.error, row[1] == "text" ? "" : "binary-content");

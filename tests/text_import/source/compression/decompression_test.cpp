@@ -143,7 +143,7 @@ TEST(ratio_limit, stops_whoever_reads_on_but_not_the_sample) {
 }
 
 TEST(zip, is_read_by_its_only_or_its_named_member) {
-  made::for_each_row("zip.tsv", [](made::cells const& row) {
+  made::for_each_row("source/compression/zip.tsv", [](made::cells const& row) {
     std::vector<std::pair<std::string, std::string>> members = {{row[4], row[5]}};
     if (!row[6].empty()) {
       members.emplace_back(row[6], row[7]);

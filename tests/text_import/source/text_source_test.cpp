@@ -33,6 +33,15 @@ void* operator new(std::size_t const size) {
   return memory;
 }
 
+// The sanitizers have one of their own, whose memory the operators below must not free.
+void* operator new(std::size_t const size, std::nothrow_t const& /*tag*/) noexcept {
+  try {
+    return operator new(size);
+  } catch (std::bad_alloc const&) {
+    return nullptr;
+  }
+}
+
 // Not inlined: the compiler would take free() for the wrong counterpart of new.
 [[gnu::noinline]] void operator delete(void* const memory) noexcept {
   bytes_in_use -= ::malloc_usable_size(memory);
@@ -50,7 +59,7 @@ using made::Outcome;
 using made::read_all;
 
 TEST(sample, is_cut_behind_the_last_whole_line_if_the_text_goes_on) {
-  made::for_each_row("sample_cuts.tsv", [&](made::cells const& row) {
+  made::for_each_row("source/sample_cuts.tsv", [&](made::cells const& row) {
     for (std::size_t const block : {1U, 2U, 3U, 64U}) {
       SCOPED_TRACE(row[0] + " " + row[1]);
       OpenOptions options;
@@ -72,7 +81,7 @@ TEST(sample, is_cut_behind_the_last_whole_line_if_the_text_goes_on) {
 }
 
 TEST(sample, has_its_line_ends_and_odd_characters_counted) {
-  made::for_each_row("counts.tsv", [&](made::cells const& row) {
+  made::for_each_row("source/counts.tsv", [&](made::cells const& row) {
     TextFindings const found = read_all(row[0]).findings;
     std::ostringstream counts;
     counts << found.line_endings.lf << ' ' << found.line_endings.crlf << ' '

@@ -65,7 +65,7 @@ ValueRequest request_of(json const& with) {
 
 TEST(value_grammar, looks_at_values_as_people_write_them) {
   ValueGrammar const grammar(u'"', {});
-  support::for_each_row("text_import/values/values.tsv", [&](support::Row const& row) {
+  support::for_each_row("text_import/analysis/values/values.tsv", [&](support::Row const& row) {
     std::u16string const text = row.text(0);
     EXPECT_EQ(show(grammar.look_at(text)), row.cells.at(2));
     EXPECT_EQ(show(grammar.look_at(u" \t" + text + u' ')), row.cells.at(2)) << "blanks around it";
@@ -77,13 +77,14 @@ TEST(value_grammar, looks_at_values_as_people_write_them) {
 }
 
 TEST(value_grammar, goes_by_what_the_caller_says) {
-  support::for_each_row("text_import/values/value_requests.tsv", [](support::Row const& row) {
-    ValueGrammar const grammar(u'"', request_of(row.with));
-    for (std::size_t cell = 1; cell < row.cells.size(); ++cell) {
-      std::string look = show(grammar.look_at(row.text(cell)));
-      EXPECT_EQ(look, row.cells[0]) << row.cells[cell];
-    }
-  });
+  support::for_each_row("text_import/analysis/values/value_requests.tsv",
+                        [](support::Row const& row) {
+                          ValueGrammar const grammar(u'"', request_of(row.with));
+                          for (std::size_t cell = 1; cell < row.cells.size(); ++cell) {
+                            std::string look = show(grammar.look_at(row.text(cell)));
+                            EXPECT_EQ(look, row.cells[0]) << row.cells[cell];
+                          }
+                        });
 }
 
 TEST(value_grammar, gives_the_value_that_it_looks_at) {

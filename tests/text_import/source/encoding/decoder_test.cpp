@@ -37,7 +37,7 @@ Decoding decoded(std::string const& encoding, std::string_view bytes, std::size_
 }
 
 TEST(decoder, gives_the_same_in_blocks_of_any_size) {
-  made::for_each_row("decoding.tsv", [&](made::cells const& row) {
+  made::for_each_row("source/encoding/decoding.tsv", [&](made::cells const& row) {
     std::u16string const text = made::utf16(row[2]);
     std::vector<std::uint64_t> bad_offsets;
     std::istringstream offsets(row[4]);
