@@ -31,7 +31,7 @@ TEST(FieldClassifier, Types) {
 
 // The table's other column is that of the analysis, which is more lenient.
 TEST(FieldClassifier, TypesBesideLenientOnes) {
-  support::for_each_row("text_import/values/values.tsv", [](support::Row const& row) {
+  support::for_each_row("text_import/analysis/values/values.tsv", [](support::Row const& row) {
     EXPECT_EQ(type_of({}, row.text(0)), row.cells.at(1));
   });
 }

@@ -108,8 +108,12 @@ TEST(json_writer, writes_what_a_json_library_writes) {
   for (int i = 0; i < 40'000; ++i) {
     Json const json = random_value(random, 4);
     std::string const line = dumped(json, Layout::OneLine);
-    ASSERT_EQ(written(json, Layout::OneLine), line);
-    ASSERT_EQ(dumped(Json::parse(written(json, Layout::Indented)), Layout::OneLine), line);
+    std::string const own = written(json, Layout::OneLine);
+    // The library's doubles are not always the shortest that read back as the same.
+    ASSERT_TRUE(own == line || (own.size() < line.size() && Json::parse(own) == Json::parse(line)))
+        << own << "\n"
+        << line;
+    ASSERT_EQ(Json::parse(written(json, Layout::Indented)), Json::parse(own));
     Json const text = random_bytes(random);
     ASSERT_EQ(written(text, Layout::Indented), dumped(text, Layout::Indented));
   }
