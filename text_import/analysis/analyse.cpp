@@ -11,8 +11,9 @@
 #include "text_import/analysis/checking/rule_check_internal.hpp"
 #include "text_import/analysis/describing/description_internal.hpp"
 #include "text_import/analysis/readings/collecting_internal.hpp"
-#include "text_import/analysis/weighing/confidence_internal.hpp"
+#include "text_import/analysis/readings/value_measures_internal.hpp"
 #include "text_import/analysis/weighing/weighing_internal.hpp"
+#include "text_import/analysis/weighing/weights_internal.hpp"
 
 namespace textimport {
 
@@ -49,20 +50,32 @@ class Analyst {
 
   void weigh() {
     bool const is_engines = task_.request.engine_decides && !task_.layout;
-    Weighing const weighed =
-        is_engines ? weigh_by_engine() : weigh_readings(readings(), task_.layout.has_value());
+    weighed_ = is_engines ? weigh_by_engine()
+                          : analysis::weigh_readings(readings(), found_.lines,
+                                                     collected_.engine_decision.get(),
+                                                     task_.layout.has_value());
     Evidence& evidence = found_.evidence;
-    evidence.winner = weighed.winner;
-    evidence.rules = analysis::rule_texts();
+    evidence.winner = weighed_.winner;
+    evidence.measures = analysis::measure_texts();
     for (AssumedOptions const& assumed : assumed_) {
       evidence.hypotheses.push_back(assumed.hypothesis);
     }
     for (std::size_t i = 0; i < readings().size(); ++i) {
       Reading const& r = readings()[i];
-      evidence.candidates.push_back({r.hypothesis, r.layout, r.delimiter, r.block.columns,
-                                     r.coverage, r.soundness, weighed.fates[i].rule,
-                                     weighed.fates[i].measure});
+      add_candidate({r.hypothesis, r.layout, r.delimiter, r.block.columns, r.coverage, r.soundness},
+                    weighed_.scores[i]);
     }
+    if (weighed_.scores.back().is_table) {
+      add_candidate({.num_columns = 1, .coverage = 1}, weighed_.scores.back());
+    }
+  }
+
+  void add_candidate(Candidate candidate, analysis::ReadingScore& score) {
+    candidate.is_table = score.is_table;
+    candidate.score = score.score;
+    candidate.share = score.share;
+    candidate.pieces = std::move(score.pieces);
+    found_.evidence.candidates.push_back(std::move(candidate));
   }
 
   /// The reading that the engine came to. Its comma fallback was never a candidate.
@@ -77,9 +90,10 @@ class Analyst {
                                   task_.request.records);
         readings().push_back(analysis::measure_records(decision, found_.lines, task_));
       }
-      measure_values(readings()[*weighed.winner]);
+      measure_values(readings()[*weighed.winner], found_.lines);
     }
-    weighed.fates.resize(readings().size());
+    weighed.certainty = 1;
+    weighed.scores.resize(readings().size() + 1);
     return weighed;
   }
 
@@ -141,16 +155,14 @@ class Analyst {
     if (!found_.evidence.winner) {
       return Reason::NoTable;
     }
-    return found_.evidence.candidates.size() == 1 ? Reason::OnlyReading : Reason::BestReading;
+    return found_.evidence.candidates.size() <= 2 ? Reason::OnlyReading : Reason::BestReading;
   }
 
   [[nodiscard]] double certainty_of_layout() const {
     if (task_.splits_are_given() || !has_records()) {
       return 1;
     }
-    return found_.evidence.winner
-               ? confidence_of_table(collected_.readings, *found_.evidence.winner)
-               : analysis::confidence_of_lines(collected_.readings);
+    return weighed_.certainty;
   }
 
   [[nodiscard]] bool columns_differ() const {
@@ -169,7 +181,7 @@ class Analyst {
 
   [[nodiscard]] bool is_unsure() const {
     using textio::detection::Outcome;
-    if (task_.splits_are_given() || !found_.evidence.winner || !has_records()) {
+    if (task_.splits_are_given() || !has_records()) {
       return false;
     }
     return task_.request.engine_decides
@@ -178,19 +190,15 @@ class Analyst {
   }
 
   void find_runner_up() {
-    auto const& winner = found_.evidence.winner;
-    if (!winner || task_.layout || task_.request.engine_decides) {
-      return;
-    }
-    if (auto const next = analysis::find_runner_up(readings(), *winner)) {
-      double const certainty = confidence_of_table(readings(), *next);
-      found_.evidence.runner_up = {*next, (1 - found_.certainty.layout) * certainty};
+    if (weighed_.runner_up && !task_.splits_are_given()) {
+      found_.evidence.runner_up = {*weighed_.runner_up, weighed_.certainty_of_runner_up};
     }
   }
 
   Task task_;
   std::vector<AssumedOptions> assumed_;
   CollectedReadings collected_;
+  Weighing weighed_;
   bool start_is_missing_ = false;
   Analysis found_;
 };

@@ -25,13 +25,22 @@ struct Hypothesis {
 };
 
 /// A rule at which readings fall. Both texts are constants.
-struct RuleText {
-  std::string_view name;          ///< "enough_text"
-  std::string_view meaning;       ///< what it demands, and which number it looks at
-  bool measure_is_share = false;  ///< that number is a share, 0 to 1
+enum class MeasureScale : std::uint8_t { Share, YesOrNo, Number };
+
+struct MeasureText {
+  std::string_view name;     ///< "unsound"
+  std::string_view meaning;  ///< what the number is
+  MeasureScale scale = MeasureScale::Share;
 };
 
-/// One reading that was weighed.
+/// What one measure adds to the score of a reading.
+struct ScorePiece {
+  std::size_t measure = 0;  ///< position in Evidence::measures
+  double value = 0;         ///< what was measured
+  double amount = 0;        ///< that times its weight: above 0 it speaks for the reading
+};
+
+/// One way to read the text.
 struct Candidate {
   std::size_t hypothesis = 0;  ///< position in Evidence::hypotheses
   Layout layout = Layout::Lines;
@@ -39,12 +48,13 @@ struct Candidate {
   std::size_t num_columns = 0;
   double coverage = 0;   ///< the share of the text's records that have that many fields
   double soundness = 0;  ///< how well its values hold together, 0 to 1
-  /// The rule at which it fell, as a position in Evidence::rules; empty for the answer.
-  std::optional<std::size_t> rule;
-  double measure = 0;  ///< the number that this rule looks at
+  /// False for a reading of fewer than two columns, which has no score.
+  bool is_table = false;
+  double score = 0;
+  double share = 0;  ///< how likely it is beside the others, 0 to 1
+  std::vector<ScorePiece> pieces;
 };
 
-/// What a line is.
 enum class LineRole : std::uint8_t {
   Title,      ///< text above the data: a title, notes, settings
   Comment,    ///< starts with the comment marker
@@ -108,8 +118,9 @@ struct RunnerUp {
 
 struct Evidence {
   std::vector<Hypothesis> hypotheses;  ///< in the order in which they were tried
-  std::vector<RuleText> rules;         ///< in the order in which they ran
-  std::vector<Candidate> candidates;   ///< in the order in which they were made
+  std::vector<MeasureText> measures;   ///< what the scores are made of
+  /// In the order in which they were made; the last is each line as a value, where that may be.
+  std::vector<Candidate> candidates;
   std::optional<std::size_t> winner;   ///< empty when each line is a value
   std::optional<RunnerUp> runner_up;
 

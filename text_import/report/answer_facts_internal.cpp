@@ -12,6 +12,7 @@
 #include "text_import/report/display_text.hpp"
 #include "text_import/report/format_rules_internal.hpp"
 #include "text_import/report/reading_words_internal.hpp"
+#include "text_import/report/score_words_internal.hpp"
 
 namespace textimport::reporting {
 
@@ -99,33 +100,6 @@ void add_marks(FactLines& facts, MarkFormat const& marks) {
   }
 }
 
-/// The best first, each way to split the lines once.
-std::vector<Candidate const*> ranked(Evidence const& evidence) {
-  std::vector<Candidate const*> rest;
-  for (Candidate const& candidate : evidence.candidates) {
-    rest.push_back(&candidate);
-  }
-  std::ranges::stable_sort(rest, std::ranges::greater{}, [](Candidate const* const candidate) {
-    return candidate->coverage * candidate->soundness;
-  });
-  std::vector<Candidate const*> best;
-  if (evidence.winner) {
-    best.push_back(&evidence.candidates[*evidence.winner]);
-  }
-  if (evidence.runner_up) {
-    best.push_back(&evidence.candidates[evidence.runner_up->candidate]);
-  }
-  for (Candidate const* const candidate : rest) {
-    auto const same = [&](Candidate const* const other) {
-      return candidate_text(*other) == candidate_text(*candidate);
-    };
-    if (std::ranges::none_of(best, same)) {
-      best.push_back(candidate);
-    }
-  }
-  return best;
-}
-
 /// Whether the answer was weighed against others.
 bool is_weighed(Reason const reason) {
   switch (reason) {
@@ -178,9 +152,10 @@ void add_confidence(FactLines& facts, Analysis const& analysis) {
 }
 
 void add_candidates(FactLines& facts, Analysis const& analysis) {
-  constexpr std::size_t most = 6;
+  constexpr std::size_t most = 3;
   constexpr std::size_t indent = 9;
-  auto const candidates = ranked(analysis.evidence);
+  Evidence const& evidence = analysis.evidence;
+  auto const candidates = ranked_candidates(evidence);
   std::size_t const shown = std::min(candidates.size(), most);
   if (analysis.decided || shown == 0) {
     return;
@@ -188,11 +163,16 @@ void add_candidates(FactLines& facts, Analysis const& analysis) {
   facts.add("candidates", fmt::format("the best first{}", and_more(candidates.size() - shown)));
   for (std::size_t i = 0; i < shown; ++i) {
     Candidate const& candidate = *candidates[i];
-    std::string const sentence =
-        fmt::format("{}: {} of the records, soundness {:.2f}", candidate_text(candidate),
-                    share_text(candidate.coverage), candidate.soundness);
+    std::string sentence =
+        fmt::format("{}, {} likely", candidate_text(candidate), share_text(candidate.share));
+    if (candidates.size() > 1) {
+      Candidate const& other = *candidates[i == 0 ? 1 : 0];
+      std::string const reasons = strongest_text(evidence, candidate, other, 2);
+      sentence += reasons.empty() ? "" : fmt::format("; for it: {}", reasons);
+    }
     facts.text() += fmt::format("    {:>3}  ", i + 1) + wrapped(sentence, indent, facts.width());
   }
+  facts.add("to settle", "say how the lines are split, or give more of the text");
 }
 
 }  // namespace textimport::reporting

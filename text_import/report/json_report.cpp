@@ -144,10 +144,18 @@ void write_hypothesis(JsonWriter& writer, Hypothesis const& hypothesis) {
   writer.end_object();
 }
 
-void write_rule(JsonWriter& writer, RuleText const& rule) {
+void write_measure(JsonWriter& writer, MeasureText const& measure) {
   writer.begin_object();
-  write_member(writer, "name", rule.name);
-  write_member(writer, "meaning", rule.meaning);
+  write_member(writer, "name", measure.name);
+  write_member(writer, "meaning", measure.meaning);
+  writer.end_object();
+}
+
+void write_piece(JsonWriter& writer, ScorePiece const& piece) {
+  writer.begin_object();
+  write_member(writer, "measure", piece.measure);
+  write_member(writer, "value", piece.value);
+  write_member(writer, "amount", piece.amount);
   writer.end_object();
 }
 
@@ -159,8 +167,11 @@ void write_candidate(JsonWriter& writer, Candidate const& candidate) {
   write_member(writer, "num_columns", candidate.num_columns);
   write_member(writer, "coverage", candidate.coverage);
   write_member(writer, "soundness", candidate.soundness);
-  write_member(writer, "rule", candidate.rule);
-  write_member(writer, "measure", candidate.rule ? std::optional(candidate.measure) : std::nullopt);
+  write_member(writer, "score",
+               candidate.is_table ? std::optional(candidate.score) : std::nullopt);
+  write_member(writer, "share", candidate.share);
+  writer.key("pieces");
+  write_list(writer, candidate.pieces, write_piece);
   writer.end_object();
 }
 
@@ -169,8 +180,8 @@ void write_explanation(JsonWriter& writer, Analysis const& analysis) {
   writer.begin_object();
   writer.key("hypotheses");
   write_list(writer, evidence.hypotheses, write_hypothesis);
-  writer.key("rules");
-  write_list(writer, evidence.rules, write_rule);
+  writer.key("measures");
+  write_list(writer, evidence.measures, write_measure);
   writer.key("candidates");
   write_list(writer, evidence.candidates, write_candidate);
   write_member(writer, "winner", evidence.winner);

@@ -121,8 +121,16 @@ std::string number_text(double const number) {
   return std::isfinite(number) && number < largest_real ? fmt::format("{:.4g}", number) : "none";
 }
 
-std::string measure_text(RuleText const& rule, double const measure) {
-  return rule.measure_is_share ? share_text(measure) : number_text(measure);
+std::string measure_text(MeasureText const& measure, double const value) {
+  switch (measure.scale) {
+    case MeasureScale::Share:
+      return share_text(value);
+    case MeasureScale::YesOrNo:
+      return value != 0 ? "yes" : "no";
+    case MeasureScale::Number:
+      break;
+  }
+  return number_text(value);
 }
 
 std::string in_quotes(std::u16string_view const text) {

@@ -36,8 +36,8 @@ namespace textimport::reporting {
 /// A number of a score: without needless decimals, and a word where there is none.
 [[nodiscard]] std::string number_text(double number);
 
-/// The number that a rule saw, as it looks at it.
-[[nodiscard]] std::string measure_text(RuleText const& rule, double measure);
+/// A number that was measured: a share, yes or no, or itself.
+[[nodiscard]] std::string measure_text(MeasureText const& measure, double value);
 
 /// A text in quotes, cut when it is long.
 [[nodiscard]] std::string in_quotes(std::u16string_view text);

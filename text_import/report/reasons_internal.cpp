@@ -10,6 +10,7 @@
 
 #include "text_import/report/engine_rules_internal.hpp"
 #include "text_import/report/reading_words_internal.hpp"
+#include "text_import/report/score_words_internal.hpp"
 #include "text_import/report/sampled_part_internal.hpp"
 
 namespace textimport::reporting {
@@ -86,8 +87,7 @@ std::string types_clause(std::vector<Column> const& columns) {
 
 std::string next_best(Evidence const& evidence) {
   if (!evidence.runner_up) {
-    return evidence.candidates.size() == 1 ? "nothing else splits the lines"
-                                           : "no other reading as a table holds";
+    return "nothing else splits the lines";
   }
   return fmt::format("next best: {}, {}",
                      fields_text(evidence.candidates[evidence.runner_up->candidate]),
@@ -103,30 +103,15 @@ std::string why_table(Analysis const& analysis) {
                      types_clause(analysis.format.columns), next_best(evidence));
 }
 
-/// The reading that got the farthest.
-Candidate const& nearest_to_a_table(Evidence const& evidence) {
-  auto const distance = [](Candidate const& candidate) {
-    return std::tuple(candidate.rule.value_or(0), candidate.coverage * candidate.soundness);
-  };
-  return *std::ranges::max_element(evidence.candidates, {}, distance);
-}
-
 std::string why_lines(Evidence const& evidence) {
-  std::size_t const count = evidence.candidates.size();
-  if (count == 0) {
+  auto const ranked = ranked_candidates(evidence);
+  if (ranked.size() < 2) {
     return "nothing splits the lines into columns";
   }
-  Candidate const& nearest = nearest_to_a_table(evidence);
-  std::string subject =
-      count == 1
-          ? fmt::format("the only reading as a table, {}, does not hold", fields_text(nearest))
-          : fmt::format("none of {} readings as a table holds; the nearest is {}", count,
-                        fields_text(nearest));
-  if (!nearest.rule) {
-    return subject;
-  }
-  RuleText const& rule = evidence.rules[*nearest.rule];
-  return fmt::format("{}, but {}: {}", subject, rule.meaning, measure_text(rule, nearest.measure));
+  std::string const nearest =
+      fmt::format("next best: {}, {}", fields_text(*ranked[1]), share_text(ranked[1]->share));
+  std::string const reasons = strongest_text(evidence, *ranked[0], *ranked[1], 2);
+  return reasons.empty() ? nearest : fmt::format("{}; against it: {}", nearest, reasons);
 }
 
 std::string why_given(LayoutFormat const& layout) {

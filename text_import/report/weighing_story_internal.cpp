@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "text_import/report/weighing_story_internal.hpp"
 
+#include <algorithm>
+#include <cmath>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include <fmt/format.h>
@@ -10,7 +11,7 @@
 #include "text_import/format/utf.hpp"
 #include "text_import/report/headings_internal.hpp"
 #include "text_import/report/reading_words_internal.hpp"
-#include "text_import/report/rule_lists_internal.hpp"
+#include "text_import/report/score_words_internal.hpp"
 #include "text_import/report/text_table_internal.hpp"
 #include "text_import/report/wrapping.hpp"
 
@@ -68,8 +69,8 @@ std::string candidates_table(std::vector<Candidate> const& candidates, std::size
     for (std::string const& cell :
          {fmt::format("{}", rows.size()), reading_name(candidate),
           fmt::format("{}", candidate.num_columns), share_text(candidate.coverage),
-          fmt::format("{:.2f}", candidate.soundness),
-          std::string(1, letter_of(candidate.hypothesis))}) {
+          candidate.is_table ? fmt::format("{:.1f}", candidate.score) : std::string("-"),
+          share_text(candidate.share), std::string(1, letter_of(candidate.hypothesis))}) {
       row.push_back(*from_utf8(cell));
     }
   }
@@ -77,39 +78,48 @@ std::string candidates_table(std::vector<Candidate> const& candidates, std::size
                         {u"reading"},
                         {u"columns", true},
                         {u"records", true},
-                        {u"soundness", true},
+                        {u"score", true},
+                        {u"likely", true},
                         {u"assumed"}},
                        rows, {.width = width, .indent = 2});
 }
 
-std::vector<NumberedReading> fallen_at(Evidence const& evidence, std::size_t const rule) {
-  std::vector<NumberedReading> fallen;
-  for (std::size_t i = 0; i < evidence.candidates.size(); ++i) {
-    Candidate const& candidate = evidence.candidates[i];
-    if (candidate.rule == rule) {
-      fallen.push_back({i, reading_name(candidate), candidate.measure,
-                        measure_text(evidence.rules[rule], candidate.measure)});
+std::string differences_text(Evidence const& evidence, Candidate const& candidate,
+                             Candidate const& other, std::size_t const most,
+                             std::size_t const width) {
+  constexpr std::size_t indent = 11;
+  constexpr double least = 0.05;  // what is shown as 0.1 at least
+  std::string text;
+  std::size_t shown = 0;
+  for (ScoreDifference const& difference : differences(candidate, other)) {
+    if (shown++ < most && std::abs(difference.amount) >= least) {
+      text += fmt::format("    {:+5.1f}  ", difference.amount) +
+              wrapped(difference_text(evidence, difference), indent, width);
     }
   }
-  return fallen;
+  return text;
 }
 
-/// The rules at which readings fell, in their order.
-std::string fallen_text(Evidence const& evidence, std::size_t const width) {
-  std::string text;
-  std::size_t number = 0;
-  std::size_t left = evidence.candidates.size();
-  for (std::size_t rule = 0; rule < evidence.rules.size(); ++rule) {
-    auto fallen = fallen_at(evidence, rule);
-    if (fallen.empty()) {
-      continue;
-    }
-    std::size_t const falling = fallen.size();
-    std::size_t const seen = std::exchange(left, left - falling);
-    RuleText const& words = evidence.rules[rule];
-    text += rule_heading(++number, words.name, words.meaning, width);
-    text += paragraph(
-        fmt::format("{} of {} fall: {}", falling, seen, numbered_list(std::move(fallen))), width);
+/// What speaks for the answer and against it, beside the reading that comes next; and what speaks
+/// most for and against each of the others.
+std::string scores_text(Evidence const& evidence, ReportStyle const& style) {
+  constexpr std::size_t of_answer = 10;
+  constexpr std::size_t of_others = 4;
+  constexpr std::size_t others_shown = 3;
+  auto const ranked = ranked_candidates(evidence);
+  if (ranked.size() < 2) {
+    return "";
+  }
+  std::string text =
+      heading(fmt::format("What speaks for {} (+) and against it (-), beside {}",
+                          candidate_text(*ranked[0]), candidate_text(*ranked[1])),
+              style);
+  text += differences_text(evidence, *ranked[0], *ranked[1], of_answer, style.width);
+  for (std::size_t i = 1; i < std::min(ranked.size(), others_shown + 1); ++i) {
+    text += heading(fmt::format("{}, {} likely: what speaks for it and against it, beside the answer",
+                                candidate_text(*ranked[i]), share_text(ranked[i]->share)),
+                    style);
+    text += differences_text(evidence, *ranked[i], *ranked[0], of_others, style.width);
   }
   return text;
 }
@@ -125,11 +135,8 @@ std::string weighing_story(Evidence const& evidence, ReportStyle const& style) {
   text += heading("All readings; records: the share of the text's records that have these columns",
                   style);
   text += candidates_table(evidence.candidates, style.width);
-  if (std::string const fallen = fallen_text(evidence, style.width); !fallen.empty()) {
-    text += heading("Rules at which readings fall", style);
-    text += fallen;
-  }
-  text += heading("What is left", style);
+  text += scores_text(evidence, style);
+  text += heading("The answer", style);
   std::string const left = evidence.winner
                                ? fmt::format("#{} {}", *evidence.winner + 1,
                                              candidate_text(evidence.candidates[*evidence.winner]))

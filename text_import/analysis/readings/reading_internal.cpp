@@ -7,7 +7,6 @@
 #include "text_import/analysis/readings/hypothesis_internal.hpp"
 #include "text_import/analysis/readings/reading_options.hpp"
 #include "text_import/analysis/values/text_internal.hpp"
-#include "text_import/analysis/values/value_shape_internal.hpp"
 
 namespace textimport::analysis {
 
@@ -118,98 +117,6 @@ void count_fitting_lines(Reading& r, LineIndex const& lines, ColumnProfile const
   }
 }
 
-double weight_of(ValueLook const& look) noexcept {
-  if (look.quoted || is_typed(look.shape)) {
-    return 1.0;
-  }
-  switch (look.shape) {
-    case ValueShape::Missing:
-      return 0.9;
-    case ValueShape::Word:
-      return 0.8;
-    case ValueShape::Phrase:
-      return 0.6;
-    default:
-      return 0.0;
-  }
-}
-
-// Enough values to judge a reading by; what the rest would add is not worth its time.
-constexpr std::size_t records_judged = 60;
-constexpr std::size_t columns_judged = 40;
-
-/// Looks at the values of a reading and sets what is measured of them.
-class ValueCount {
- public:
-  explicit ValueCount(Reading& r)
-      : reading_(r), columns_(std::min(r.block.columns, columns_judged)) {}
-
-  void run() {
-    std::size_t const step = 1 + reading_.block.regular / records_judged;
-    std::size_t regular = 0;
-    for (std::size_t i = reading_.block.first; i <= reading_.block.last; ++i) {
-      if (i < reading_.records.size() && reading_.records[i].num_fields == reading_.block.columns &&
-          regular++ % step == 0) {
-        add_record(i, regular == 1 && reading_.block.regular > 2);
-      }
-    }
-    set_shares();
-  }
-
- private:
-  struct ColumnCount {
-    std::size_t filled = 0;
-    std::size_t typed = 0;
-    std::size_t names = 0;  // texts in the first record
-  };
-
-  void add_record(std::size_t const i, bool const may_be_names) {
-    auto const record = reading_.strategy->field_array()->record(i);
-    for (std::size_t column = 0; column < std::min(columns_.size(), record.size()); ++column) {
-      add(columns_[column], reading_.values.look_at(record[column].view()), may_be_names);
-    }
-  }
-
-  void add(ColumnCount& column, ValueLook const& look, bool const may_be_name) {
-    ++looked_at_;
-    if (look.shape == ValueShape::Empty) {
-      return;
-    }
-    bool const is_value = is_typed(look.shape) || look.shape == ValueShape::Missing;
-    ++filled_;
-    weights_ += weight_of(look);
-    broken_ += look.shape == ValueShape::Broken ? 1U : 0U;
-    ++column.filled;
-    column.typed += is_value ? 1U : 0U;
-    column.names += may_be_name && !is_value ? 1U : 0U;
-  }
-
-  void set_shares() {
-    std::size_t typed = 0;
-    for (ColumnCount const& column : columns_) {
-      typed += column.typed;
-      reading_.filled_columns += column.filled > 0 ? 1U : 0U;
-      bool const is_typed_column =
-          column.typed > 0 && column.typed * 5 >= (column.filled - column.names) * 4;
-      reading_.typed_columns += is_typed_column ? 1U : 0U;
-    }
-    if (filled_ > 0) {
-      auto const filled = static_cast<double>(filled_);
-      reading_.empty_share = 1 - filled / static_cast<double>(looked_at_);
-      reading_.soundness = weights_ / filled;
-      reading_.broken_share = static_cast<double>(broken_) / filled;
-      reading_.typed_share = static_cast<double>(typed) / filled;
-    }
-  }
-
-  Reading& reading_;
-  std::vector<ColumnCount> columns_;
-  std::size_t looked_at_ = 0;
-  std::size_t filled_ = 0;
-  std::size_t broken_ = 0;
-  double weights_ = 0;
-};
-
 /// Those that are one code unit long.
 std::u16string excluded_characters(Request const& request) {
   std::u16string characters;
@@ -253,10 +160,6 @@ void take_single_column(Reading& r) {
   if (r.block.regular == 0) {
     set_block(r, best_block(r.records, 1));
   }
-}
-
-void measure_values(Reading& r) {
-  ValueCount(r).run();
 }
 
 }  // namespace textimport::analysis

@@ -47,6 +47,7 @@ struct Reading {
   std::size_t filled_records = 0;
   TableBlock block;
   double agreement = 0;     ///< of the column profile; fixed widths only
+  double equal_lengths = 0;  ///< of the column profile; fixed widths only
   double coverage = 0;      ///< regular records, as a share of all filled ones
   double regularity = 0;    ///< the same inside the block
   double soundness = 0;     ///< how well the values hold together, 0 to 1
@@ -56,6 +57,15 @@ struct Reading {
   std::size_t typed_columns = 0;
   std::size_t filled_columns = 0;  ///< columns with a value
   std::size_t longest_record = 1;  ///< in lines
+  double mixed_share = 0;       ///< values of another kind than most of their column
+  bool has_names = false;       ///< the first record is text above columns that are more than text
+  double open_end_share = 0;    ///< records whose last field is empty
+  double aligned_share = 0;     ///< fields that begin or end below those of the record before
+  double wide_gap_share = 0;    ///< fields with more than a single blank in front; split at blanks
+  double torn_share = 0;        ///< fields that end inside a word; fixed widths only
+  double inner_blank_share = 0; ///< values that hold a blank
+  double seconds_share = 0;     ///< records that are cut at the fraction of a second
+  double key_share = 0;         ///< records that are a name and its value
 };
 
 /// The measures of what a strategy of the engine sampled. `profile`, for fixed widths only, tells
@@ -71,8 +81,5 @@ struct Reading {
 /// Takes the records of one field for the block, where there is none of several columns: the caller
 /// says what splits the lines, and nothing does.
 void take_single_column(Reading& r);
-
-/// Looks at values of the block: soundness and types. Dearer than the measures of records.
-void measure_values(Reading& r);
 
 }  // namespace textimport::analysis

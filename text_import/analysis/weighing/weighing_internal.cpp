@@ -1,84 +1,237 @@
 // SPDX-License-Identifier: MIT
+//
+// A conditional logit model: the share of a reading is the exponential of its score over the sum
+// of those of all (McFadden, Conditional logit analysis of qualitative choice behavior, 1973).
 #include "text_import/analysis/weighing/weighing_internal.hpp"
 
 #include <algorithm>
-#include <array>
-#include <numeric>
+#include <cmath>
+
+#include "text_import/analysis/readings/reading_options.hpp"
+#include "text_import/analysis/readings/value_measures_internal.hpp"
+#include "text_import/analysis/weighing/measures_internal.hpp"
+#include "text_import/analysis/weighing/weights_internal.hpp"
 
 namespace textimport::analysis {
 
 namespace {
 
-/// In their order. The first asks for no values, so that only those of readings that pass it are
-/// looked at.
-constexpr std::array all_rules{&regular_records,    &several_columns,       &enough_text,
-                               &rare_delimiters,    &sound_values,          &single_blanks,
-                               &doubled_delimiters, &seconds_are_no_column, &keys_are_no_column,
-                               &typed_fixed_width,  &touching_columns,      &best_fit,
-                               &usual_delimiters};
+// No answer is surer: there are texts that nobody could read.
+constexpr double surest = 0.99;
 
-KeptReadings all_of(std::vector<Reading> const& readings) {
-  KeptReadings all(readings.size());
-  std::iota(all.begin(), all.end(), std::size_t{0});
-  return all;
+/// The exponential of a number that is not above 0, with the same bits on every machine: the
+/// library's own may differ in the last. A power of two times a Taylor polynomial.
+double exponential(double const x) {
+  constexpr double log_of_2 = 0.6931471805599453;
+  if (x < -60) {
+    return 0;
+  }
+  double const twos = std::floor(x / log_of_2);
+  double const rest = x - twos * log_of_2;
+  double sum = 1;
+  for (int i = 14; i > 0; --i) {
+    sum = 1 + sum * rest / i;
+  }
+  return std::ldexp(sum, static_cast<int>(twos));
 }
 
-/// Applies one rule and notes who fell.
-void run_rule(std::size_t const rule, std::vector<Reading> const& readings, KeptReadings& kept,
-              std::vector<ReadingFate>& fates) {
-  KeptReadings left = all_rules.at(rule)->apply(kept, readings);
-  for (std::size_t const i : kept) {
-    if (!std::ranges::binary_search(left, i)) {
-      fates[i] = {rule, all_rules.at(rule)->measure(readings[i])};
+bool splits_alike(Reading const& a, Reading const& b) {
+  return a.layout == b.layout && a.delimiter == b.delimiter;
+}
+
+bool may_be_table(Reading const& r) {
+  return r.block.columns >= 2 && r.block.regular > 0;
+}
+
+double fit_of(Reading const& r) {
+  return r.coverage * r.soundness;
+}
+
+class Weigher {
+ public:
+  Weigher(std::vector<Reading> const& readings, LineIndex const& lines,
+          textio::GenericStrategy const* const engine_decision)
+      : readings_(readings), traits_(find_text_traits(lines)), engine_(engine_decision) {
+    result_.scores.resize(readings.size() + 1);
+  }
+
+  Weighing run(bool const is_bound) {
+    for (std::size_t i = 0; i < readings_.size(); ++i) {
+      result_.scores[i].is_table = readings_[i].filled_columns >= 2;
+      if (result_.scores[i].is_table) {
+        set_score(result_.scores[i], alternative_of(readings_[i]));
+      }
+    }
+    result_.scores.back().is_table = !is_bound;
+    if (!is_bound) {
+      set_score(result_.scores.back(), lines_alternative());
+    }
+    set_shares();
+    choose();
+    if (!result_.winner && is_bound && !readings_.empty()) {
+      result_.winner = best_fit();
+    }
+    return std::move(result_);
+  }
+
+ private:
+  [[nodiscard]] Alternative alternative_of(Reading const& r) const {
+    bool const agrees = engine_ != nullptr && layout_of(engine_->mode()) == r.layout &&
+                        (r.layout != Layout::Delimited ||
+                         engine_->options().delimiters.front() == r.delimiter);
+    return {&r, kind_of(r), rivals_of(&r), agrees, r.hypothesis != 0, &traits_};
+  }
+
+  [[nodiscard]] Alternative lines_alternative() const {
+    bool const agrees = engine_ != nullptr && layout_of(engine_->mode()) == Layout::Lines;
+    return {nullptr, ReadingKind::Lines, rivals_of(nullptr), agrees, false, &traits_};
+  }
+
+  [[nodiscard]] Rivals rivals_of(Reading const* const reading) const {
+    Rivals rivals;
+    for (Reading const& r : readings_) {
+      if (r.filled_columns >= 2 && (reading == nullptr || !splits_alike(r, *reading))) {
+        add_rival(rivals, r);
+      }
+    }
+    return rivals;
+  }
+
+  static void add_rival(Rivals& rivals, Reading const& r) {
+    double const fit = fit_of(r);
+    switch (kind_of(r)) {
+      case ReadingKind::Usual:
+        rivals.usual = std::max(rivals.usual, fit);
+        rivals.tab = r.delimiter == u"\t" ? std::max(rivals.tab, fit) : rivals.tab;
+        break;
+      case ReadingKind::Blank:
+        rivals.blank_columns = fit > rivals.blank ? r.block.columns : rivals.blank_columns;
+        rivals.blank = std::max(rivals.blank, fit);
+        break;
+      case ReadingKind::Rare:
+        rivals.rare = std::max(rivals.rare, fit);
+        break;
+      case ReadingKind::Fixed:
+        rivals.fixed = std::max(rivals.fixed, fit);
+        break;
+      case ReadingKind::Lines:
+        break;
     }
   }
-  kept = std::move(left);
-}
+
+  static void set_score(ReadingScore& score, Alternative const& alternative) {
+    auto const measures = all_measures();
+    auto const weights = all_weights();
+    score.pieces.reserve(measures.size());
+    for (std::size_t i = 0; i < measures.size(); ++i) {
+      double const value = measures[i].value(alternative);
+      if (value != 0) {
+        double const amount = value * weights[i].of_kind.at(static_cast<std::size_t>(alternative.kind));
+        score.pieces.push_back({i, value, amount});
+        score.score += amount;
+      }
+    }
+  }
+
+  void set_shares() {
+    double best = 0;
+    bool is_first = true;
+    for (ReadingScore const& score : result_.scores) {
+      best = score.is_table && (is_first || score.score > best) ? score.score : best;
+      is_first = is_first && !score.is_table;
+    }
+    double sum = 0;
+    for (ReadingScore& score : result_.scores) {
+      score.share = score.is_table ? exponential(score.score - best) : 0;
+      sum += score.share;
+    }
+    for (ReadingScore& score : result_.scores) {
+      score.share = sum == 0 ? 0 : score.share / sum;
+    }
+  }
+
+  /// The share of all that split the text as the one at `i`.
+  [[nodiscard]] double share_of_alike(std::size_t const i) const {
+    if (i == readings_.size()) {
+      return result_.scores[i].share;
+    }
+    double share = 0;
+    for (std::size_t other = 0; other < readings_.size(); ++other) {
+      share += splits_alike(readings_[i], readings_[other]) ? result_.scores[other].share : 0;
+    }
+    return share;
+  }
+
+  /// The best of the kind of reading with the largest share, of those that differ from `except`.
+  [[nodiscard]] std::optional<std::size_t> best_but(std::optional<std::size_t> const except) const {
+    std::optional<std::size_t> best;
+    double best_share = 0;
+    for (std::size_t i = 0; i < result_.scores.size(); ++i) {
+      bool const is_left = result_.scores[i].is_table && !(except && are_alike(*except, i));
+      double const share = is_left ? share_of_alike(i) : 0;
+      bool const is_better =
+          !best || share > best_share ||
+          (are_alike(*best, i) && result_.scores[i].score > result_.scores[*best].score);
+      if (is_left && is_better) {
+        best = i;
+        best_share = share;
+      }
+    }
+    return best;
+  }
+
+  [[nodiscard]] bool are_alike(std::size_t const a, std::size_t const b) const {
+    std::size_t const lines = readings_.size();
+    return a == b || (a != lines && b != lines && splits_alike(readings_[a], readings_[b]));
+  }
+
+  void choose() {
+    auto const best = best_but(std::nullopt);
+    if (!best) {
+      return;
+    }
+    result_.certainty = std::min(surest, share_of_alike(*best));
+    if (*best != readings_.size()) {
+      result_.winner = best;
+    }
+    result_.runner_up = best_but(best);
+    if (result_.runner_up) {
+      result_.certainty_of_runner_up = share_of_alike(*result_.runner_up);
+    }
+  }
+
+  /// Where none is a table and yet one has to be it.
+  [[nodiscard]] std::size_t best_fit() const {
+    auto const best = std::ranges::max_element(readings_, {}, fit_of);
+    return static_cast<std::size_t>(best - readings_.begin());
+  }
+
+  std::vector<Reading> const& readings_;
+  TextTraits traits_;
+  textio::GenericStrategy const* engine_;
+  Weighing result_;
+};
 
 }  // namespace
 
-std::vector<RuleText> rule_texts() {
-  std::vector<RuleText> texts;
-  texts.reserve(all_rules.size());
-  for (WeighingRule const* const rule : all_rules) {
-    texts.push_back({rule->name, rule->meaning, rule->measure_is_share});
+std::vector<MeasureText> measure_texts() {
+  std::vector<MeasureText> texts;
+  texts.reserve(all_measures().size());
+  for (Measure const& measure : all_measures()) {
+    texts.push_back({measure.name, measure.meaning, measure.scale});
   }
   return texts;
 }
 
-Weighing weigh_readings(std::vector<Reading>& readings, bool const is_bound) {
-  Weighing result{std::vector<ReadingFate>(readings.size()), std::nullopt};
-  KeptReadings kept = all_of(readings);
-  run_rule(0, readings, kept, result.fates);
-  for (std::size_t const i : kept) {
-    measure_values(readings[i]);
+Weighing weigh_readings(std::vector<Reading>& readings, LineIndex const& lines,
+                        textio::GenericStrategy const* const engine_decision,
+                        bool const is_bound) {
+  for (Reading& r : readings) {
+    if (may_be_table(r) || is_bound) {
+      measure_values(r, lines);
+    }
   }
-  for (std::size_t rule = 1; rule < all_rules.size(); ++rule) {
-    run_rule(rule, readings, kept, result.fates);
-  }
-  if (kept.empty() && is_bound && !readings.empty()) {
-    kept = best_fit.apply(all_of(readings), readings);
-    result.fates[kept.front()] = {};
-  }
-  if (!kept.empty()) {
-    result.winner = kept.front();
-  }
-  return result;
-}
-
-std::optional<std::size_t> find_runner_up(std::vector<Reading> const& readings,
-                                          std::size_t const winner) {
-  auto const splits_alike = [&](std::size_t const i) {
-    return readings[i].layout == readings[winner].layout &&
-           readings[i].delimiter == readings[winner].delimiter;
-  };
-  std::vector<ReadingFate> fates(readings.size());
-  KeptReadings kept = all_of(readings);
-  std::erase_if(kept, splits_alike);
-  for (std::size_t rule = 0; rule < all_rules.size(); ++rule) {
-    run_rule(rule, readings, kept, fates);
-  }
-  return kept.empty() ? std::nullopt : std::optional(kept.front());
+  return Weigher(readings, lines, engine_decision).run(is_bound);
 }
 
 }  // namespace textimport::analysis

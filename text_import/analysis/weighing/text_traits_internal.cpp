@@ -1,0 +1,290 @@
+// SPDX-License-Identifier: MIT
+#include "text_import/analysis/weighing/text_traits_internal.hpp"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+#include "text_format_detection/platform/ascii_internal.hpp"
+#include "text_import/analysis/values/text_internal.hpp"
+#include "text_import/analysis/values/value_words_internal.hpp"
+
+namespace textimport::analysis {
+
+namespace {
+
+using textio::platform::is_digit;
+using textio::platform::is_letter;
+using view = std::u16string_view;
+
+// Enough to see what a text is like.
+constexpr std::size_t lines_looked_at = 200;
+constexpr std::size_t units_looked_at = 400;  // of a line
+
+// The commonest words without a meaning of their own in languages with the letters a to z.
+constexpr std::array<view, 64> function_words{
+    u"the",  u"of",   u"and",  u"to",   u"in",   u"is",   u"that", u"for",  u"it",  u"as",  u"was",
+    u"with", u"be",   u"by",   u"on",   u"not",  u"he",   u"but",  u"at",   u"are", u"this", u"have",
+    u"from", u"or",   u"had",  u"an",   u"they", u"which", u"you", u"all",  u"we",  u"when", u"can",
+    u"if",   u"has",  u"will", u"der",  u"die",  u"das",  u"und",  u"ist",  u"von", u"mit", u"ein",
+    u"eine", u"zu",   u"le",   u"la",   u"les",  u"et",   u"est",  u"du",   u"des", u"que", u"el",
+    u"los",  u"del",  u"una",  u"por",  u"con",  u"il",   u"che",  u"van",  u"het"};
+
+double share_of(std::size_t const part, std::size_t const whole) {
+  return whole == 0 ? 0 : static_cast<double>(part) / static_cast<double>(whole);
+}
+
+bool is_blank(char16_t const c) {
+  return c == u' ' || c == u'\t';
+}
+
+/// A mean and a spread, number by number.
+struct Spread {
+  double count = 0;
+  double sum = 0;
+  double squares = 0;
+
+  void add(std::size_t const number) {
+    auto const x = static_cast<double>(number);
+    count += 1;
+    sum += x;
+    squares += x * x;
+  }
+
+  [[nodiscard]] double mean() const { return count == 0 ? 0 : sum / count; }
+
+  [[nodiscard]] double relative() const {
+    constexpr double most = 3;
+    double const variance = std::max(0.0, squares / std::max(count, 1.0) - mean() * mean());
+    return mean() == 0 ? 0 : std::min(most, std::sqrt(variance) / mean());
+  }
+};
+
+/// Whether digits and signs stand as in a pattern, 0 for a digit.
+bool follows(view const text, view const pattern) {
+  if (text.size() < pattern.size()) {
+    return false;
+  }
+  for (std::size_t i = 0; i < pattern.size(); ++i) {
+    bool const fits = pattern[i] == u'0' ? is_digit(text[i])
+                      : pattern[i] == u'/'
+                          ? text[i] == u'/' || text[i] == u'-' || text[i] == u'.'
+                          : text[i] == pattern[i];
+    if (!fits) {
+      return false;
+    }
+  }
+  return true;
+}
+
+/// A date or a time of day among the first characters.
+bool begins_with_time_stamp(view const line) {
+  constexpr std::size_t reach = 24;
+  view const head = line.substr(0, reach + 10);
+  for (std::size_t i = 0; i < std::min(head.size(), reach); ++i) {
+    bool const is_start = is_digit(head[i]) && (i == 0 || !is_digit(head[i - 1]));
+    if (is_start && (follows(head.substr(i), u"0000/00/00") || follows(head.substr(i), u"00:00:00") ||
+                     follows(head.substr(i), u"00/00/0000"))) {
+      return true;
+    }
+  }
+  return false;
+}
+
+/// How long the name is with which the line begins, if one does.
+std::size_t key_length(view const line) {
+  constexpr std::size_t longest = 40;
+  std::size_t length = 0;
+  while (length < line.size() && length <= longest &&
+         (is_letter(line[length]) || is_digit(line[length]) || line[length] == u'_' ||
+          line[length] == u'-' || line[length] == u'.' || line[length] == u' ')) {
+    ++length;
+  }
+  return length > longest ? 0 : length;
+}
+
+bool is_number_word(view const word) {
+  std::size_t digits = 0;
+  for (char16_t const c : word) {
+    bool const is_sign = c == u'.' || c == u',' || c == u'-' || c == u'+' || c == u'e' || c == u'E';
+    digits += is_digit(c) ? 1U : 0U;
+    if (!is_digit(c) && !is_sign) {
+      return false;
+    }
+  }
+  return digits > 0;
+}
+
+view without_signs(view word) {
+  while (!word.empty() && !is_letter(word.back()) && word.back() < 128) {
+    word.remove_suffix(1);
+  }
+  while (!word.empty() && !is_letter(word.front()) && word.front() < 128) {
+    word.remove_prefix(1);
+  }
+  return word;
+}
+
+/// Adds up line by line.
+class TraitCount {
+ public:
+  void add(view const whole) {
+    ++lines_;
+    view const line = trimmed(whole.substr(0, units_looked_at));
+    if (line.empty()) {
+      return;
+    }
+    ++filled_;
+    count(indented_, is_blank(whole.front()));
+    add_edges(line);
+    add_characters(line);
+    add_words(line);
+    lengths_.add(line.size());
+  }
+
+  TextTraits result() {
+    std::ranges::sort(patterns_);
+    auto const same = std::ranges::unique(patterns_);
+    patterns_.erase(same.begin(), same.end());
+    return {.sentence_ends = of_lines(sentence_ends_),
+            .function_words = share_of(function_words_, words_),
+            .number_words = share_of(number_words_, words_),
+            .time_stamps = of_lines(time_stamps_),
+            .colon_keys = of_lines(colon_keys_),
+            .equals_keys = of_lines(equals_keys_),
+            .tags = of_lines(tags_),
+            .code_ends = of_lines(code_ends_),
+            .indented = of_lines(indented_),
+            .blank_lines = share_of(lines_ - filled_, lines_),
+            .letters = share_of(letters_, characters_),
+            .digits = share_of(digits_, characters_),
+            .wide_gaps = of_lines(wide_gaps_),
+            .comma_blanks = share_of(comma_blanks_, commas_),
+            .prose_lines = of_lines(prose_lines_),
+            .patterns = of_lines(patterns_.size()),
+            .length_spread = lengths_.relative(),
+            .words_spread = words_a_line_.relative(),
+            .words_a_line = words_a_line_.mean(),
+            .addresses = of_lines(addresses_),
+            .filled_lines = filled_};
+  }
+
+ private:
+  static void count(std::size_t& number, bool const is_one) { number += is_one ? 1U : 0U; }
+
+  [[nodiscard]] double of_lines(std::size_t const number) const {
+    return share_of(number, filled_);
+  }
+
+  void add_edges(view const line) {
+    view const last = line.substr(line.size() - 1);
+    count(sentence_ends_, view(u".?!:").find(last) != view::npos);
+    count(code_ends_, view(u"{};>").find(last) != view::npos || line.front() == u'}' ||
+                          line.front() == u'<');
+    count(time_stamps_, begins_with_time_stamp(line));
+    count(tags_, line.find(u"</") != view::npos || line.find(u"/>") != view::npos);
+    count(addresses_, line.front() == u'/' || line.find(u"://") != view::npos);
+    std::size_t const key = key_length(line);
+    view const behind = line.substr(key);
+    count(colon_keys_, key > 0 && behind.starts_with(u":") && (behind.size() == 1 || is_blank(behind[1])));
+    count(equals_keys_, key > 0 && behind.starts_with(u"="));
+  }
+
+  /// The pattern of a line is made of its signs, each run of letters and digits being one.
+  void add_characters(view const line) {
+    std::uint64_t pattern = 14695981039346656037U;  // FNV-1a
+    bool in_word = false;
+    bool has_gap = false;
+    for (std::size_t i = 0; i < line.size(); ++i) {
+      char16_t const c = line[i];
+      bool const letter = is_letter(c) || c >= 128;
+      bool const digit = is_digit(c);
+      count(letters_, letter);
+      count(digits_, digit);
+      bool const is_word = letter || digit;
+      if (!is_word || !in_word) {
+        pattern = (pattern ^ (is_word ? u'a' : c)) * 1099511628211U;
+      }
+      in_word = is_word;
+      bool const blank_follows = i + 1 < line.size() && is_blank(line[i + 1]);
+      has_gap = has_gap || (is_blank(c) && blank_follows);
+      count(commas_, c == u',');
+      count(comma_blanks_, c == u',' && blank_follows);
+    }
+    characters_ += line.size();
+    count(wide_gaps_, has_gap);
+    patterns_.push_back(pattern);
+  }
+
+  void add_words(view const line) {
+    std::size_t words = 0;
+    std::size_t small = 0;
+    for (std::size_t pos = 0; pos < line.size();) {
+      std::size_t end = pos;
+      while (end < line.size() && !is_blank(line[end])) {
+        ++end;
+      }
+      view const word = line.substr(pos, end - pos);
+      ++words;
+      bool const is_small = is_small_word(word);
+      small += is_small ? 1U : 0U;
+      count(number_words_, is_number_word(word));
+      count(function_words_, is_small && is_one_of(without_signs(word), function_words));
+      pos = end;
+      while (pos < line.size() && is_blank(line[pos])) {
+        ++pos;
+      }
+    }
+    words_ += words;
+    words_a_line_.add(words);
+    count(prose_lines_, words >= 6 && small * 2 > words);
+  }
+
+  /// A word of letters but for signs at its ends.
+  static bool is_small_word(view const word) {
+    view const inner = without_signs(word);
+    return !inner.empty() && inner.size() + 2 >= word.size() &&
+           std::ranges::all_of(inner, [](char16_t const c) {
+             return (c >= u'a' && c <= u'z') || c >= 128 || c == u'\'' || is_letter(c);
+           });
+  }
+
+  std::size_t lines_ = 0;
+  std::size_t filled_ = 0;
+  std::size_t sentence_ends_ = 0;
+  std::size_t time_stamps_ = 0;
+  std::size_t colon_keys_ = 0;
+  std::size_t equals_keys_ = 0;
+  std::size_t tags_ = 0;
+  std::size_t code_ends_ = 0;
+  std::size_t indented_ = 0;
+  std::size_t wide_gaps_ = 0;
+  std::size_t prose_lines_ = 0;
+  std::size_t addresses_ = 0;
+  std::size_t words_ = 0;
+  std::size_t number_words_ = 0;
+  std::size_t function_words_ = 0;
+  std::size_t characters_ = 0;
+  std::size_t letters_ = 0;
+  std::size_t digits_ = 0;
+  std::size_t commas_ = 0;
+  std::size_t comma_blanks_ = 0;
+  std::vector<std::uint64_t> patterns_;
+  Spread lengths_;
+  Spread words_a_line_;
+};
+
+}  // namespace
+
+TextTraits find_text_traits(LineIndex const& lines) {
+  TraitCount traits;
+  for (std::size_t i = 0; i < std::min(lines.count(), lines_looked_at); ++i) {
+    traits.add(lines[i]);
+  }
+  return traits.result();
+}
+
+}  // namespace textimport::analysis
