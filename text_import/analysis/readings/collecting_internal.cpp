@@ -23,24 +23,6 @@ using textio::detection::DetectionReport;
 
 using delimiter_list = std::vector<std::u16string>;
 
-// Lines behind these are like those before them.
-constexpr std::size_t lines_profiled = 2000;
-
-/// Whether characters of one kind stand below each other as they do in columns of fixed width. The
-/// less the positions agree, and the fewer lines there are, the more the lengths have to. Names of
-/// different lengths agree little, but blanks that run through all lines part them.
-bool is_columnar(ColumnProfile const& profile) {
-  double const agreement = profile.agreement();
-  double const equal = profile.equal_lengths();
-  if (profile.num_lines() < 4) {
-    return false;
-  }
-  double const required_equal = profile.num_lines() < 30 ? 0.75 : 0.6;
-  bool const has_ragged_columns = profile.num_lines() >= 6 && equal >= 0.5 && profile.has_gutters();
-  return (agreement >= 0.5 && equal >= required_equal) || (agreement >= 0.2 && equal >= 0.95) ||
-         has_ragged_columns;
-}
-
 /// Fills the list of one analysis.
 class ReadingCollector {
  public:
@@ -88,29 +70,29 @@ class ReadingCollector {
     }
   }
 
-  /// Columns of fixed width, as the positions of the lines show them. Titles stand at the top, so
-  /// that the end of the text may show them better than all of it.
-  void read_fixed_width(bool const is_given) {
-    std::size_t const end = std::min(lines_.count(), lines_profiled);
-    ColumnProfile best(lines_, 0, end);
-    for (std::size_t const first : {end / 2, end * 2 / 3}) {
-      ColumnProfile profile(lines_, first, end);
-      bool const is_clearer = profile.agreement() > best.agreement() + 0.1;
-      if (is_columnar(profile) && (is_clearer || !is_columnar(best))) {
-        best = std::move(profile);
-      }
+  /// Columns of fixed width, as the positions of the lines show them. A given layout has one, the
+  /// likeliest, whatever the lines show.
+  void read_fixed_width(AssumedOptions const& assumed, std::size_t const hypothesis,
+                        bool const is_given) {
+    auto const& markers = assumed.parsing.comment_style;
+    auto found = find_fixed_columns(
+        lines_, markers.size() == 1 ? std::u16string_view(markers.front()) : std::u16string_view());
+    found_.shows_fixed_width = found_.shows_fixed_width || !found.empty();
+    if (is_given && found.empty()) {
+      found.push_back(single_column(lines_));
     }
-    found_.shows_fixed_width = is_columnar(best);
-    if (!is_given && !found_.shows_fixed_width) {
-      return;
+    if (is_given) {
+      found.erase(found.begin() + 1, found.end());
     }
-    auto const strategy =
-        std::make_shared<FixedWidthStrategy>(task_.parsing, task_.types, best.widths());
-    // All lines that were profiled: the table may stand behind a long preamble.
-    textio::evaluate_strategy(strategy, textio::Field(lines_.text()),
-                              std::max(task_.request.records, lines_profiled));
-    found_.readings.push_back(measure_records(strategy, lines_, task_, &best));
-    found_.readings.back().agreement = best.agreement();
+    for (FixedColumns const& columns : found) {
+      auto const strategy =
+          std::make_shared<FixedWidthStrategy>(assumed.parsing, task_.types, columns.widths());
+      // All lines that were profiled: the table may stand behind a long preamble.
+      textio::evaluate_strategy(strategy, textio::Field(lines_.text()),
+                                std::max(task_.request.records, lines_profiled));
+      found_.readings.push_back(measure_records(strategy, lines_, task_, &columns));
+      found_.readings.back().hypothesis = hypothesis;
+    }
   }
 
   void next_hypothesis() { ++hypothesis_; }
@@ -177,7 +159,15 @@ CollectedReadings collect_readings(LineIndex const& lines,
   bool const is_fixed = task.layout == Layout::FixedWidth && task.request.widths.empty();
   bool const is_open = !task.layout && !task.request.engine_decides;
   if (is_fixed || (is_open && !collector.is_explained())) {
-    collector.read_fixed_width(is_fixed);
+    collector.read_fixed_width(hypotheses.front(), 0, is_fixed);
+    auto const has_comments = [](AssumedOptions const& assumed) {
+      return assumed.hypothesis.comment_markers.size() == 1;
+    };
+    auto const with = std::ranges::find_if(hypotheses, has_comments);
+    if (with != hypotheses.end()) {
+      collector.read_fixed_width(*with, static_cast<std::size_t>(with - hypotheses.begin()),
+                                 is_fixed);
+    }
   }
   return found;
 }

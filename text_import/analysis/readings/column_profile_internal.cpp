@@ -52,7 +52,7 @@ view without_trailing_blanks(view const line) {
 }
 
 /// The median.
-std::size_t usual_length(std::vector<std::size_t> lengths) {
+std::size_t usual_length_of(std::vector<std::size_t> lengths) {
   auto const middle = lengths.begin() + static_cast<std::ptrdiff_t>((lengths.size() - 1) / 2);
   std::ranges::nth_element(lengths, middle);
   return *middle;
@@ -60,7 +60,7 @@ std::size_t usual_length(std::vector<std::size_t> lengths) {
 
 /// The share of lengths that differ from the usual one by two at most.
 double share_of_usual(std::vector<std::size_t> const& lengths) {
-  std::size_t const usual = usual_length(lengths);
+  std::size_t const usual = usual_length_of(lengths);
   auto const is_usual = [&](std::size_t const n) { return n + 2 >= usual && n <= usual + 2; };
   return static_cast<double>(std::ranges::count_if(lengths, is_usual)) /
          static_cast<double>(lengths.size());
@@ -68,34 +68,33 @@ double share_of_usual(std::vector<std::size_t> const& lengths) {
 
 }  // namespace
 
-ColumnProfile::ColumnProfile(LineIndex const& lines, std::size_t const first,
-                             std::size_t const end) {
+ColumnProfile::ColumnProfile(std::vector<view> const& lines) : num_lines_(lines.size()) {
+  if (lines.empty()) {
+    return;
+  }
   std::vector<view> filled;
   std::vector<std::size_t> lengths;
   std::vector<std::size_t> padded_lengths;
-  for (std::size_t i = first; i < end; ++i) {
-    view const line = without_trailing_blanks(lines[i]);
-    if (!line.empty()) {
-      filled.push_back(line.substr(0, max_positions));
-      lengths.push_back(filled.back().size());
-      padded_lengths.push_back(lines[i].size());
-    }
-  }
-  num_lines_ = filled.size();
-  if (num_lines_ == 0) {
-    return;
+  for (view const line : lines) {
+    filled.push_back(without_trailing_blanks(line).substr(0, max_positions));
+    lengths.push_back(filled.back().size());
+    padded_lengths.push_back(line.size());
   }
   equal_lengths_ = std::max(share_of_usual(lengths), share_of_usual(padded_lengths));
-  usual_length_ = usual_length(lengths);
+  usual_length_ = usual_length_of(lengths);
   counts_.resize(*std::ranges::max_element(lengths));
   for (view const line : filled) {
     for (std::size_t pos = 0; pos < line.size(); ++pos) {
       ++counts_[pos][kind_of(line[pos])];
     }
   }
-  std::size_t const third = usual_length_ / 3;
-  agreement_ = std::min({agreement_between(0, third), agreement_between(third, 2 * third),
-                         agreement_between(2 * third, usual_length_)});
+  agreement_ = agreement_before(usual_length_);
+}
+
+double ColumnProfile::agreement_before(std::size_t const position) const noexcept {
+  std::size_t const third = position / 3;
+  return std::min({agreement_between(0, third), agreement_between(third, 2 * third),
+                   agreement_between(2 * third, position)});
 }
 
 double ColumnProfile::agreement_between(std::size_t const first,
@@ -123,17 +122,17 @@ double ColumnProfile::agreement_between(std::size_t const first,
                                                        : (agreed - expected) / (total - expected);
 }
 
-bool ColumnProfile::is_blank_at(std::size_t const position) const noexcept {
+std::size_t ColumnProfile::filled_at(std::size_t const position) const noexcept {
   KindCounts const& counts = counts_[position];
-  std::uint32_t filled = 0;
+  std::size_t filled = 0;
   for (std::size_t kind = 1; kind < num_kinds; ++kind) {
     filled += counts[kind];
   }
-  return std::size_t{filled} * 50 <= num_lines_;
+  return filled;
 }
 
-bool ColumnProfile::fits(view const line) const noexcept {
-  view const text = without_trailing_blanks(line).substr(0, counts_.size());
+bool ColumnProfile::fits(view const line, std::size_t const end) const noexcept {
+  view const text = without_trailing_blanks(line).substr(0, std::min(end, counts_.size()));
   std::size_t rare = 0;
   for (std::size_t pos = 0; pos < text.size(); ++pos) {
     std::size_t const kind = kind_of(text[pos]);
@@ -146,46 +145,38 @@ bool ColumnProfile::is_mostly_digit(std::size_t const position) const noexcept {
   return std::size_t{counts_[position][digit_kind]} * 10 >= num_lines_ * 9;
 }
 
-std::vector<std::size_t> ColumnProfile::widths() const {
-  constexpr std::size_t long_line = 40;
-  auto widths = widths_between_blanks();
-  return widths.size() < 2 && counts_.size() >= long_line ? widths_of_touching() : widths;
+bool ColumnProfile::is_gutter(std::size_t const first, std::size_t const end) const noexcept {
+  constexpr std::size_t few_lines = 3;
+  return num_lines_ > few_lines || end - first > 1 || is_mostly_digit(first - 1) ||
+         is_mostly_digit(end);
 }
 
-bool ColumnProfile::has_gutters() const {
-  auto const widths = widths_between_blanks();
-  return widths.size() >= 3 && (counts_.size() - widths.back()) * 2 >= usual_length_;
-}
-
-std::vector<std::size_t> ColumnProfile::widths_of_touching() const {
-  std::vector<std::size_t> widths;
-  std::size_t start = 0;
+std::vector<std::size_t> ColumnProfile::starts_of_digits() const {
+  std::vector<std::size_t> starts{0};
   for (std::size_t pos = 1; pos < counts_.size(); ++pos) {
     if (is_mostly_digit(pos) && !is_mostly_digit(pos - 1)) {
-      widths.push_back(pos - start);
-      start = pos;
+      starts.push_back(pos);
     }
   }
-  widths.push_back(counts_.size() - start);
-  return widths;
+  return starts;
 }
 
-std::vector<std::size_t> ColumnProfile::widths_between_blanks() const {
-  std::vector<std::size_t> widths;
-  std::size_t start = 0;
-  bool in_column = false;  // a filled position was met since `start`
+std::vector<std::size_t> ColumnProfile::starts_behind_blanks(std::size_t const exceptions) const {
+  std::vector<std::size_t> starts{0};
+  std::size_t gap_start = 0;
   bool in_gap = true;
-  for (std::size_t pos = 0; pos < counts_.size(); ++pos) {
-    bool const is_blank = is_blank_at(pos);
-    if (!is_blank && in_gap && in_column) {
-      widths.push_back(pos - start);
-      start = pos;
+  bool has_column = false;  // a filled position was met
+  for (std::size_t pos = 0; pos < std::min(counts_.size(), usual_length_); ++pos) {
+    bool const is_blank = filled_at(pos) <= exceptions;
+    if (is_blank && !in_gap) {
+      gap_start = pos;
+    } else if (!is_blank && in_gap && has_column && is_gutter(gap_start, pos)) {
+      starts.push_back(pos);
     }
-    in_column = in_column || !is_blank;
+    has_column = has_column || !is_blank;
     in_gap = is_blank;
   }
-  widths.push_back(counts_.size() - start);
-  return widths;
+  return starts;
 }
 
 }  // namespace textimport::analysis

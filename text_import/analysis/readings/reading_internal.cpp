@@ -108,11 +108,10 @@ void set_block(Reading& r, TableBlock const& block) {
 }
 
 /// A line that fits the columns has all of them, whatever its length; another is no record of them.
-void count_fitting_lines(Reading& r, LineIndex const& lines, ColumnProfile const& profile) {
-  std::size_t const columns = r.strategy->options().column_widths.size();
+void count_fitting_lines(Reading& r, LineIndex const& lines, FixedColumns const& columns) {
   for (RecordPlace& record : r.records) {
     if (record.num_fields > 0) {
-      record.num_fields = profile.fits(lines[record.line]) ? columns : 1;
+      record.num_fields = columns.fits(lines[record.line]) ? columns.starts.size() : 1;
     }
   }
 }
@@ -129,7 +128,7 @@ std::u16string excluded_characters(Request const& request) {
 }  // namespace
 
 Reading measure_records(std::shared_ptr<textio::GenericStrategy> strategy, LineIndex const& lines,
-                        Task const& task, ColumnProfile const* const profile) {
+                        Task const& task, FixedColumns const* const columns) {
   Reading r;
   r.strategy = std::move(strategy);
   r.layout = layout_of(r.strategy->mode());
@@ -139,8 +138,13 @@ Reading measure_records(std::shared_ptr<textio::GenericStrategy> strategy, LineI
   r.quote = quote_of(r.strategy->options());
   r.values = ValueGrammar(r.quote, task.request.values, excluded_characters(task.request));
   place_records(r, lines);
-  if (profile != nullptr) {
-    count_fitting_lines(r, lines, *profile);
+  if (columns != nullptr) {
+    count_fitting_lines(r, lines, *columns);
+    r.agreement = columns->profile.agreement();
+    r.equal_lengths = columns->profile.equal_lengths();
+    r.head_agreement = columns->head_agreement();
+    r.head_share = columns->head_share();
+    r.by_ruler = columns->by_ruler;
   }
   set_block(r, find_block(r.records, false));
   return r;

@@ -12,7 +12,7 @@
 
 #include "text_format_detection/strategies/generic_strategy.hpp"
 #include "text_import/analysis/lines/line_index.hpp"
-#include "text_import/analysis/readings/column_profile_internal.hpp"
+#include "text_import/analysis/readings/fixed_widths_internal.hpp"
 #include "text_import/analysis/readings/task_internal.hpp"
 #include "text_import/analysis/values/value_grammar_internal.hpp"
 #include "text_import/format/evidence.hpp"
@@ -47,7 +47,10 @@ struct Reading {
   std::size_t filled_records = 0;
   TableBlock block;
   double agreement = 0;     ///< of the column profile; fixed widths only
-  double equal_lengths = 0;  ///< of the column profile; fixed widths only
+  double equal_lengths = 0;   ///< of the column profile; fixed widths only
+  double head_agreement = 0;  ///< the same in front of the last column; fixed widths only
+  double head_share = 0;      ///< of the usual length, what stands there; fixed widths only
+  bool by_ruler = false;      ///< a line of dashes or bars parts the columns
   double coverage = 0;      ///< regular records, as a share of all filled ones
   double regularity = 0;    ///< the same inside the block
   double soundness = 0;     ///< how well the values hold together, 0 to 1
@@ -68,11 +71,11 @@ struct Reading {
   double key_share = 0;         ///< records that are a name and its value
 };
 
-/// The measures of what a strategy of the engine sampled. `profile`, for fixed widths only, tells
+/// The measures of what a strategy of the engine sampled. `columns`, for fixed widths only, tell
 /// which lines belong to the table; elsewhere the number of fields does.
 [[nodiscard]] Reading measure_records(std::shared_ptr<textio::GenericStrategy> strategy,
                                       LineIndex const& lines, Task const& task,
-                                      ColumnProfile const* profile = nullptr);
+                                      FixedColumns const* columns = nullptr);
 
 /// The same strategy with the table at the end of the text, where that is another one than the
 /// largest: titles and notes may look like a larger table.

@@ -7,7 +7,7 @@ namespace textimport::analysis {
 
 namespace {
 
-constexpr std::array<MeasureWeights, 67> weights{{
+constexpr std::array<MeasureWeights, 70> weights{{
     // measure, and its weight with usual delimiters, blanks, rare delimiters, fixed widths, lines
     {"kind", {0.3, 0.21, 0.08, 0.16, -0.17}},
     {"tab", {3.13, 2.09, 2.09, 2.09, 0}},
@@ -44,6 +44,9 @@ constexpr std::array<MeasureWeights, 67> weights{{
     {"unaligned", {-0.02, -0.03, -0.02, -0.02, 0}},
     {"narrow_gaps", {-1.36, -2.05, -1.36, -1.36, 0}},
     {"disagreement", {-1.76, -1.76, -1.76, -2.64, 0}},
+    {"head_disagreement", {0, 0, 0, 0, 0}},
+    {"tail", {0, 0, 0, 0, 0}},
+    {"ruled", {0, 0, 0, 0, 0}},
     {"unequal", {-0.2, -0.2, -0.2, -0.3, 0}},
     {"torn", {-0.53, -0.53, -0.53, -0.8, 0}},
     {"as_by_blanks", {0.4, 0.4, 0.4, 0.6, 0}},
