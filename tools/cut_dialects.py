@@ -3,13 +3,13 @@
 
 The functions in VARIANTS are as those of cut_tables.py.
 """
-from cut_lines import remark
 from cut_tables import NUMBER, Table, cells, label, pad
+from cut_texts import remark
 
 
 def mark_of(delimiter):
     """How a label writes a delimiter."""
-    return {"\t": "\\t"}.get(delimiter, delimiter)
+    return {"\t": "\\t", "\x14": "\\x14"}.get(delimiter, delimiter)
 
 
 def written(table, delimiter, quote=lambda value, is_text: False, behind=""):
@@ -47,6 +47,14 @@ def by_several(table, _, chance):
 def by_wide(table, _, chance):
     delimiter = chance.choice(("\uff0c", "\u061b", "\u00a6"))
     return None if any(delimiter in v for v in table.values()) else written(table, delimiter)
+
+
+def by_thorns(table, *_):
+    """Each value between thorns, apart by the control character that goes with them."""
+    if not all(table.values()) or any("\u00fe" in value for value in table.values()):
+        return None
+    lines = ["\x14".join(f"\u00fe{value}\u00fe" for value in row) for row in table.rows()]
+    return lines, label("delimited", table, delimiter=mark_of("\x14"))
 
 
 def decimal_commas(table, *_):
@@ -127,6 +135,8 @@ def bordered(kind):
             return None
         numbers = table.is_number()
         widths = [max(3, *map(cells, column)) for column in zip(*table.rows())]
+        if kind == "markdown" and chance.random() < 0.3:
+            widths = [3] * table.width
         inner = [bar.join(" " + pad(v, w, n and row is not table.names) + " "
                           for v, w, n in zip(row, widths, numbers)) for row in table.rows()]
         lines, header = BORDERS[kind](inner, widths, len(table.records), chance)
@@ -140,7 +150,8 @@ def markdown(inner, widths, _, chance):
     for width in widths:
         left, right = chance.choice(ends) if chance.random() < 0.5 else ends[0]
         ruler.append(" " + left + "-" * (width - 2) + right + " ")
-    lines = inner[:1] + ["|".join(ruler)] + inner[1:]
+    joint = chance.choice("|||+")
+    lines = inner[:1] + [joint.join(ruler)] + inner[1:]
     return [f"|{line}|" for line in lines], 2
 
 
@@ -151,8 +162,11 @@ def psql(inner, widths, count, chance):
 
 
 def grid(inner, widths, _, chance):
+    """Rulers of +---+ around, below the names, and sometimes below each record."""
     ruler = "+" + "+".join("-" * (width + 2) for width in widths) + "+"
     lines = [f"|{line}|" for line in inner]
+    if chance.random() < 0.25:
+        return [ruler] + [part for line in lines for part in (line, ruler)], 3
     return [ruler, lines[0], ruler] + lines[1:] + [ruler], 3
 
 
@@ -174,7 +188,7 @@ VARIANTS = {
     "doubled_quotes": (doubled_quotes, 90), "escaped_quotes": (escaped_quotes, 60),
     "escaped_delimiters": (escaped_delimiters, 60), "decimal_commas": (decimal_commas, 90),
     "tabs": (by("\t"), 90), "bars": (by("|"), 60), "semicolons": (by(";"), 60),
-    "several_characters": (by_several, 60), "wide_delimiters": (by_wide, 30),
+    "several_characters": (by_several, 60), "wide_delimiters": (by_wide, 30), "thorns": (by_thorns, 20),
     "markdown": (bordered("markdown"), 45), "psql": (bordered("psql"), 45),
     "grid": (bordered("grid"), 45), "box": (bordered("box"), 30),
 }

@@ -4,29 +4,11 @@
 Every function in VARIANTS takes a Source and a random.Random and gives the bytes of the new file
 with what its label says otherwise, or None where the file cannot be changed in that way for sure.
 """
+import re
+
+from cut_texts import remark, sentence, title
+
 LIMIT = 60000  # bytes of a file, about
-
-SUBJECTS = """river gauges; weather stations; household survey; sales by region; sensor readings;
-spectral lines; bus stops; library loans; trial results; soil samples; energy use; bird counts;
-exchange rates; patients by ward; star positions; parts on stock""".replace("\n", " ").split("; ")
-SENTENCES = """values below the limit are marked; made by the nightly export; see the list of codes
-for details; all times are local; preliminary data, not for publication; the third run was
-repeated; missing values are left empty; version 2.1 of the file; contact: office@example.org;
-units are given in the manual; sorted by the first column; checked by hand on 12 May 2019;
-do not edit; source: yearly report; corrected for drift; sample taken at noon; device was moved;
-license: public domain; created 2021-03-04 10:15:00; outlier, kept on purpose; new filter fitted;
-columns as in the last release; rounded to two places; only complete years"""
-SENTENCES = " ".join(SENTENCES.split()).split("; ")
-
-
-def title(chance):
-    subject = chance.choice(SUBJECTS).capitalize()
-    year = chance.randint(1985, 2024)
-    return chance.choice([subject, f"{subject} {year}", f"Report on {subject.lower()}",
-                          f"{subject} - {chance.choice(SENTENCES)}",
-                          f"Table {chance.randint(1, 30)}: {subject}",
-                          f"{subject}, {year} to {year + chance.randint(1, 9)}"])
-
 
 def quotes_closed(source, lines):
     return source.row["layout"] != "delimited" or b"".join(lines).count(b'"') % 2 == 0
@@ -88,17 +70,37 @@ def middle(source, _):
     return b"".join(lines), dict(columns_left(source, lines), header_lines="0")
 
 
+def spans(lines):
+    """The runs of positions, as (first, behind), at which some line has no blank."""
+    found, first = [], None
+    for place in range(max(map(len, lines)) + 1):
+        is_blank = all(line[place:place + 1] in ("", " ") for line in lines)
+        if not is_blank and first is None:
+            first = place
+        elif is_blank and first is not None:
+            found.append((first, place))
+            first = None
+    return found
+
+
+def splits_at_blanks(lines):
+    """Whether nearly all lines have the same number of words."""
+    counts = [len(line.split()) for line in lines]
+    return max(counts.count(n) for n in set(counts)) >= 0.8 * len(counts)
+
+
 def is_like_a_table(lines):
     """Whether a part of a text could pass for a table: each line has as many of some delimiter, or
-    blanks stand in all lines at the same two places and more."""
-    lines = [line.rstrip() for line in lines if line.strip()]
-    for delimiter in (b",", b";", b"\t", b"|"):
+    two blanks and more stand in all lines at the same two places, or half of them have two gaps."""
+    lines = [line.decode("latin-1").rstrip() for line in lines if line.strip()]
+    for delimiter in ",;\t|":
         if len({line.count(delimiter) for line in lines}) == 1 and delimiter in lines[0]:
             return True
-    width = min(map(len, lines))
-    gaps = "".join("x" if any(line[p:p + 1] != b" " for line in lines) else " "
-                   for p in range(width)).strip()
-    return sum(len(gap) >= 2 for gap in gaps.split("x")) >= 2
+    if sum(len(re.findall(r"\S {3,}(?=\S)", line)) >= 2 for line in lines) * 2 >= len(lines):
+        return True
+    shortest = min(map(len, lines))
+    found = spans([line[:shortest] for line in lines])
+    return sum(b[0] - a[1] >= 2 for a, b in zip(found, found[1:])) >= 2
 
 
 def some_lines(count, at_middle):
@@ -139,7 +141,7 @@ def comment_sign(source, chance):
 
 
 def comment(sign, chance, ending):
-    return f"{sign} {chance.choice(SENTENCES)}".encode() + ending
+    return f"{sign} {sentence(chance)}".encode() + ending
 
 
 def on_top(make):
@@ -203,8 +205,8 @@ def footer(source, chance):
     if not lines:
         return None
     count = len(lines) - (source.header or 0)
-    last = chance.choice([f"Total: {count}", f"({count} rows)", f"# {chance.choice(SENTENCES)}",
-                          f"Source: {title(chance)}", f"* {chance.choice(SENTENCES)}",
+    last = chance.choice([f"Total: {count}", f"({count} rows)", f"# {sentence(chance)}",
+                          f"Source: {title(chance)}", f"* {sentence(chance)}",
                           "End of file"])
     blank = [source.ending] if chance.random() < 0.4 else []
     return b"".join(lines + blank + [last.encode() + source.ending]), {}
@@ -223,32 +225,56 @@ def total_row(source, chance):
     return b"".join(lines) + source.delimiter.join(["Total"] + fields).encode() + source.ending, {}
 
 
-def remark(chance):
-    words = " ".join(chance.sample(SENTENCES, 2)).split()
-    return " ".join(words[:chance.randint(1, len(words))])
+def plain_data(source, lines):
+    """The texts of the lines of a lined-up table, and where its data begin; or None."""
+    layout, columns = source.row["layout"], source.row["num_columns"]
+    if not lines or layout not in ("space", "fixed") or source.header is None:
+        return None
+    text = [line.decode("latin-1").rstrip("\r\n") for line in lines]
+    data = text[source.header:]
+    if not columns.isdigit() or not "".join(text).isascii():
+        return None
+    if any("\t" in line or not line.strip() for line in data):
+        return None
+    if layout == "space" and any(len(line.split()) != int(columns) for line in data):
+        return None
+    return text
+
+
+def joined(source, text):
+    ending = source.ending.decode()
+    return (ending.join(text) + ending).encode()
 
 
 def ragged_tail(source, chance):
     """Free text of different lengths behind the columns of a table."""
-    lines, layout = body(source, chance), source.row["layout"]
-    columns = source.row["num_columns"]
-    if not lines or layout not in ("space", "fixed") or source.header is None:
-        return None
-    text = [line.decode("latin-1").rstrip("\r\n") for line in lines]
-    if not all(character.isascii() for line in text for character in line):
-        return None
-    data = text[source.header:]
-    if not columns.isdigit() or any("\t" in line or not line.strip() for line in data):
-        return None
-    if layout == "space" and any(len(line.split()) != int(columns) for line in data):
-        return None
-    if layout == "fixed" and len({len(line) for line in data}) > 1:
+    text = plain_data(source, body(source, chance))
+    data = text[source.header:] if text else []
+    if not data or source.row["layout"] == "fixed" and len({len(line) for line in data}) > 1:
         return None
     width = max(len(line.rstrip()) for line in data) + chance.randint(1, 3)
     text[source.header:] = [line.rstrip().ljust(width) + remark(chance) for line in data]
-    ending = source.ending.decode()
-    return (ending.join(text) + ending).encode(), {
-        "layout": "fixed", "also": "-", "num_columns": str(int(columns) + 1)}
+    columns = int(source.row["num_columns"]) + 1
+    return joined(source, text), {"layout": "fixed", "also": "-", "num_columns": str(columns)}
+
+
+def emptied(source, chance):
+    """A table lined up by blanks, with values taken out that leave a gap."""
+    text = plain_data(source, body(source, chance))
+    if not text or source.row["layout"] != "space":
+        return None
+    places = spans(text[source.header:])
+    if len(places) != int(source.row["num_columns"]) or len(places) < 3:
+        return None
+    share, data = chance.choice((0.15, 0.3, 0.5)), []
+    for line in text[source.header:]:
+        for first, behind in places[1:]:
+            if chance.random() < share:
+                line = line[:first] + " " * (behind - first) + line[behind:]
+        data.append(line)
+    if spans(data) != places or splits_at_blanks(data):
+        return None
+    return joined(source, text[:source.header] + data), {"layout": "fixed", "also": "-"}
 
 
 # With each variant how many files of it are made at most; None: of all that can be cut so.
@@ -260,5 +286,5 @@ VARIANTS = {
     "comment_block": (on_top(comment_block), 150), "title": (on_top(title_line), 150),
     "title_blank": (on_top(title_and_blank), 120), "comments_between": (between, 150),
     "comments_behind": (at_line_ends, 90), "footer": (footer, 120), "total_row": (total_row, 90),
-    "ragged_tail": (ragged_tail, None),
+    "ragged_tail": (ragged_tail, None), "emptied": (emptied, None),
 }

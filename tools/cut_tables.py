@@ -12,7 +12,8 @@ import re
 import unicodedata
 from dataclasses import dataclass
 
-from cut_lines import remark
+from cut_lines import spans, splits_at_blanks
+from cut_texts import remark
 
 NUMBER = re.compile(r"[-+]?(\d+\.?\d*|\.\d+)([eE][-+]?\d+)?")
 
@@ -141,24 +142,12 @@ def aligned(table, _, chance):
     return lines, label("space", table, header, also="fixed")
 
 
-def blocks(lines):
-    """How many runs of positions there are at which some line has no blank."""
-    width = max(map(len, lines))
-    used = "".join("x" if any(p < len(line) and line[p] != " " for line in lines) else " "
-                   for p in range(width))
-    return len(used.split())
-
-
-def splits_at_blanks(lines):
-    """Whether nearly all lines have the same number of words."""
-    counts = [len(line.split()) for line in lines]
-    return max(counts.count(n) for n in set(counts)) >= 0.8 * len(counts)
-
-
 def fixed(table, _, chance):
     """Padded columns with values that are empty or hold blanks."""
     table = table.narrow(240)
-    if table.width < 2 or not all(map(any, table.columns())):
+    if table.width < 2 or len(table.records) * (table.width - 1) < 5:
+        return None
+    if not all(map(any, table.columns())):
         return None
     if any("  " in value for value in table.values()):
         return None
@@ -167,7 +156,7 @@ def fixed(table, _, chance):
     data = lines[header:]
     if splits_at_blanks(data):
         return None
-    columns = str(table.width) if blocks(data) == table.width else "?"
+    columns = str(table.width) if len(spans(data)) == table.width else "?"
     return lines, label("fixed", table, header, num_columns=columns)
 
 

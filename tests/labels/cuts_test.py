@@ -13,7 +13,7 @@ HERE = Path(__file__).resolve().parent
 TOOLS = HERE.parents[1] / "tools"
 sys.path.insert(0, str(TOOLS))
 sys.dont_write_bytecode = True
-from labels import is_right, read_labels  # noqa: E402
+from labels import delimiter_of, is_right, read_labels  # noqa: E402
 
 COLUMNS = "id corpus layout delimiter header_lines num_columns encoding also size doubt".split()
 # Of each file the first value of the data: it stands at the line that the labels of cuts tell.
@@ -88,7 +88,7 @@ class Cuts(unittest.TestCase):
         for name, (label, lines) in self.cuts.items():
             if label["layout"] == "delimited":
                 with self.subTest(name):
-                    delimiter = label["delimiter"].replace("\\t", "\t")
+                    delimiter = delimiter_of(label)
                     first = lines[int(label["header_lines"])]
                     self.assertGreaterEqual(first.count(delimiter), int(label["num_columns"]) - 1)
 
