@@ -188,7 +188,8 @@ VARIANTS = {
     "doubled_quotes": (doubled_quotes, 90), "escaped_quotes": (escaped_quotes, 60),
     "escaped_delimiters": (escaped_delimiters, 60), "decimal_commas": (decimal_commas, 90),
     "tabs": (by("\t"), 90), "bars": (by("|"), 60), "semicolons": (by(";"), 60),
-    "several_characters": (by_several, 60), "wide_delimiters": (by_wide, 30), "thorns": (by_thorns, 20),
+    "several_characters": (by_several, 60), "wide_delimiters": (by_wide, 30),
+    "thorns": (by_thorns, 20),
     "markdown": (bordered("markdown"), 45), "psql": (bordered("psql"), 45),
     "grid": (bordered("grid"), 45), "box": (bordered("box"), 30),
 }

@@ -118,18 +118,14 @@ def some_lines(count, at_middle):
 
 def body(source, chance):
     """The lines of a table, up to a number that differs from file to file, quotes closed; or []."""
-    if source.row["layout"] == "line" or not source.is_bytewise:
+    if source.row["layout"] == "line" or source.header is None:
         return []
-    lines = source.lines[:(source.header or 0) + chance.choice((4, 10, 25, 80, 400))]
+    lines = source.lines[:source.header + chance.choice((4, 10, 25, 80, 400))]
     while lines and (sum(map(len, lines)) > LIMIT or not quotes_closed(source, lines)):
         lines.pop()
-    if len(lines) < (source.header or 0) + 3:
+    if len(lines) < source.header + 3:
         return []
     return lines if lines[-1].endswith((b"\n", b"\r")) else lines[:-1] + [lines[-1] + source.ending]
-
-
-def moved(source, count):
-    return {} if source.header is None else {"header_lines": str(source.header + count)}
 
 
 def comment_sign(source, chance):
@@ -150,7 +146,7 @@ def on_top(make):
         new = make(source, chance) if lines else None
         if not new:
             return None
-        return b"".join(new + lines), moved(source, len(new))
+        return b"".join(new + lines), {"header_lines": str(source.header + len(new))}
     return put
 
 
@@ -170,7 +166,7 @@ def title_and_blank(source, chance):
 def between(source, chance):
     """Comments between the records, sometimes more than records."""
     lines, sign = body(source, chance), comment_sign(source, chance)
-    if not lines or not sign or source.header is None:
+    if not lines or not sign:
         return None
     share = chance.choice((0.1, 0.2, 0.5, 1.2))
     out, is_open, is_put = [], False, False
@@ -186,9 +182,8 @@ def between(source, chance):
 def at_line_ends(source, chance):
     """Comments behind the records of a delimited table without quotes."""
     lines, sign = body(source, chance), comment_sign(source, chance)
-    if (not lines or not sign or source.header is None or source.row["layout"] != "delimited"
-            or source.delimiter == " " or b'"' in b"".join(lines)
-            or sign.encode() in b"".join(lines)):
+    if (not lines or not sign or source.row["layout"] != "delimited" or source.delimiter == " "
+            or b'"' in b"".join(lines) or sign.encode() in b"".join(lines)):
         return None
     width = max(len(line.rstrip()) for line in lines) + 1 if chance.random() < 0.4 else 0
     share = chance.choice((0.4, 0.8, 1))
@@ -204,7 +199,7 @@ def footer(source, chance):
     lines = body(source, chance)
     if not lines:
         return None
-    count = len(lines) - (source.header or 0)
+    count = len(lines) - source.header
     last = chance.choice([f"Total: {count}", f"({count} rows)", f"# {sentence(chance)}",
                           f"Source: {title(chance)}", f"* {sentence(chance)}",
                           "End of file"])
@@ -228,7 +223,7 @@ def total_row(source, chance):
 def plain_data(source, lines):
     """The texts of the lines of a lined-up table, and where its data begin; or None."""
     layout, columns = source.row["layout"], source.row["num_columns"]
-    if not lines or layout not in ("space", "fixed") or source.header is None:
+    if not lines or layout not in ("space", "fixed"):
         return None
     text = [line.decode("latin-1").rstrip("\r\n") for line in lines]
     data = text[source.header:]

@@ -12,8 +12,8 @@ units are given in the manual; sorted by the first column; checked by hand on 12
 do not edit; source: yearly report; corrected for drift; sample taken at noon; device was moved;
 license: public domain; created 2021-03-04 10:15:00; outlier, kept on purpose; new filter fitted;
 columns as in the last release; rounded to two places; only complete years; ok; n/a; seen twice"""
-WHO = """the operator; our partner; a visitor; Dr. Lang; the west office; M. Oduya; the pump; unit 7;
-the second sensor; Ibarra & Sons; the old bridge; station B; nobody; the review team"""
+WHO = """the operator; our partner; a visitor; Dr. Lang; the west office; M. Oduya; the pump;
+unit 7; the second sensor; Ibarra & Sons; the old bridge; station B; nobody; the review team"""
 DID = """was replaced; asked for a copy; failed at start; reported no change; moved to the harbour;
 signed on Friday; needs new parts; was closed for 3 days; agreed; could not be reached; ran dry;
 returned 12 of 20 forms; shows a leak; is due in June"""
