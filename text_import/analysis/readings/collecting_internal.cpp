@@ -90,8 +90,10 @@ class ReadingCollector {
       // All lines that were profiled: the table may stand behind a long preamble.
       textio::evaluate_strategy(strategy, textio::Field(lines_.text()),
                                 std::max(task_.request.records, lines_profiled));
-      found_.readings.push_back(measure_records(strategy, lines_, task_, &columns));
-      found_.readings.back().hypothesis = hypothesis;
+      Reading r = measure_records(strategy, lines_, task_, &columns);
+      r.hypothesis = hypothesis;
+      r.is_read_by_blanks = is_read_by_blanks(r);
+      found_.readings.push_back(std::move(r));
     }
   }
 
@@ -105,6 +107,15 @@ class ReadingCollector {
   }
 
  private:
+  /// Whether blanks split the lines into the same values.
+  [[nodiscard]] bool is_read_by_blanks(Reading const& fixed) const {
+    return std::ranges::any_of(found_.readings, [&](Reading const& r) {
+      return r.layout == Layout::SpaceAligned && r.block.columns == fixed.block.columns &&
+             fixed.block.regular > 0 && r.block.regular >= fixed.block.regular &&
+             read_alike(fixed, r);
+    });
+  }
+
   template <class Strategy, class... Argument>
   void evaluate(AssumedOptions const& assumed, Argument&&... argument) {
     auto strategy = std::make_shared<Strategy>(assumed.parsing, task_.types,

@@ -104,6 +104,9 @@ class ColumnFinder {
     add_clearer_end(profile);
     if (found_.empty() && profile.usual_length() >= shortest_touching) {
       add(profile, profile.starts_of_digits());
+      for (FixedColumns& columns : found_) {
+        columns.are_touching = true;
+      }
     }
     return std::move(found_);
   }
@@ -202,7 +205,7 @@ bool FixedColumns::fits(view const line) const noexcept {
     torn += is_inside && line[start - 1] != u' ' && line[start] != u' ' ? 1U : 0U;
   }
   bool const is_ragged = profile.equal_lengths() < 0.5;
-  return torn * 8 <= starts.size() &&
+  return (are_touching || torn * 8 <= starts.size()) &&
          profile.fits(line, is_ragged ? starts.back() : profile.longest());
 }
 

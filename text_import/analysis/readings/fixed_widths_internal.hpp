@@ -18,6 +18,7 @@ struct FixedColumns {
   ColumnProfile profile;            ///< of the lines that show them
   std::vector<std::size_t> starts;  ///< in code units, 0 first
   bool by_ruler = false;            ///< a line of dashes or bars parts them
+  bool are_touching = false;        ///< digits part them, and no blanks
 
   /// Their widths, the last one up to the end of the longest line.
   [[nodiscard]] std::vector<std::size_t> widths() const;

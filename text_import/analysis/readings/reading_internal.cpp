@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <map>
+#include <span>
 
 #include "text_import/analysis/readings/hypothesis_internal.hpp"
 #include "text_import/analysis/readings/reading_options.hpp"
@@ -107,6 +108,13 @@ void set_block(Reading& r, TableBlock const& block) {
   }
 }
 
+/// The records with so many fields at least, as a share of the filled ones.
+double share_with_fields(Reading const& r, std::size_t const least) {
+  auto const count = std::ranges::count_if(
+      r.records, [&](RecordPlace const& record) { return record.num_fields >= least; });
+  return static_cast<double>(count) / static_cast<double>(std::max<std::size_t>(r.filled_records, 1));
+}
+
 /// A line that fits the columns has all of them, whatever its length; another is no record of them.
 void count_fitting_lines(Reading& r, LineIndex const& lines, FixedColumns const& columns) {
   for (RecordPlace& record : r.records) {
@@ -114,6 +122,11 @@ void count_fitting_lines(Reading& r, LineIndex const& lines, FixedColumns const&
       record.num_fields = columns.fits(lines[record.line]) ? columns.starts.size() : 1;
     }
   }
+}
+
+bool has_same_values(std::span<Field const> const a, std::span<Field const> const b) {
+  return std::ranges::equal(a, b, {}, [](Field const& f) { return trimmed(f.view()); },
+                            [](Field const& f) { return trimmed(f.view()); });
 }
 
 /// Those that are one code unit long.
@@ -147,7 +160,28 @@ Reading measure_records(std::shared_ptr<textio::GenericStrategy> strategy, LineI
     r.by_ruler = columns->by_ruler;
   }
   set_block(r, find_block(r.records, false));
+  r.split_share = share_with_fields(r, 2);
+  r.much_split_share = share_with_fields(r, 4);
   return r;
+}
+
+bool read_alike(Reading const& a, Reading const& b) {
+  constexpr std::size_t most = 60;
+  std::size_t compared = 0;
+  for (std::size_t i = a.block.first; i <= a.block.last && compared < most; ++i) {
+    if (a.records[i].num_fields != a.block.columns) {
+      continue;
+    }
+    auto const same = std::ranges::lower_bound(b.records, a.records[i].line, {}, &RecordPlace::line);
+    if (same == b.records.end() || same->line != a.records[i].line ||
+        !has_same_values(a.strategy->field_array()->record(i),
+                         b.strategy->field_array()->record(
+                             static_cast<std::size_t>(same - b.records.begin())))) {
+      return false;
+    }
+    ++compared;
+  }
+  return compared > 0;
 }
 
 std::optional<Reading> measure_last_block(Reading const& r) {

@@ -49,10 +49,13 @@ struct Reading {
   double agreement = 0;     ///< of the column profile; fixed widths only
   double equal_lengths = 0;   ///< of the column profile; fixed widths only
   double head_agreement = 0;  ///< the same in front of the last column; fixed widths only
+  bool is_read_by_blanks = false;  ///< blanks part the same values; fixed widths only
   double head_share = 0;      ///< of the usual length, what stands there; fixed widths only
   bool by_ruler = false;      ///< a line of dashes or bars parts the columns
   double coverage = 0;      ///< regular records, as a share of all filled ones
   double regularity = 0;    ///< the same inside the block
+  double split_share = 0;   ///< records of more than one field, as a share of all filled ones
+  double much_split_share = 0;  ///< the same of more than three
   double soundness = 0;     ///< how well the values hold together, 0 to 1
   double broken_share = 0;  ///< values that a wrong cut seems to have left
   double empty_share = 0;   ///< fields that are empty
@@ -80,6 +83,10 @@ struct Reading {
 /// The same strategy with the table at the end of the text, where that is another one than the
 /// largest: titles and notes may look like a larger table.
 [[nodiscard]] std::optional<Reading> measure_last_block(Reading const& r);
+
+/// Whether the regular records of a reading hold the same values in another, as far as some are
+/// compared.
+[[nodiscard]] bool read_alike(Reading const& a, Reading const& b);
 
 /// Takes the records of one field for the block, where there is none of several columns: the caller
 /// says what splits the lines, and nothing does.

@@ -61,6 +61,12 @@ bool is_split_at(Reading const& r) {
   return r.layout == Layout::Delimited && r.delimiter.size() == 1 && r.delimiter.front() == delimiter;
 }
 
+bool stands_inside_values(Reading const& r) {
+  constexpr std::u16string_view inner = u"/\\:.-_=@&";
+  return r.layout == Layout::Delimited && r.delimiter.size() == 1 &&
+         inner.find(r.delimiter.front()) != std::u16string_view::npos;
+}
+
 bool reaches_end(Reading const& r) {
   return r.block.last + 2 >= r.records.size();
 }
@@ -91,6 +97,8 @@ constexpr std::array measures{
     Measure{"bar", "split at bars", yes_no, is_so<is_split_at<u'|'>>},
     Measure{"long_delimiter", "the delimiter is longer than one character", yes_no,
             is_so<([](Reading const& r) { return r.delimiter.size() > 1; })>},
+    Measure{"inner_sign", "the delimiter is a sign of paths, times, names or addresses", yes_no,
+            is_so<stands_inside_values>},
     Measure{"single_blank", "split at each blank", yes_no, is_so<is_split_at<u' '>>},
     Measure{"assumed", "something is assumed of quotes or comments", yes_no,
             [](A const& a) { return yes_or_no(a.is_guess); }},
@@ -101,6 +109,10 @@ constexpr std::array measures{
     Measure{"uncovered_root", "the root of the share of records without these columns", number,
             [](A const& a) { return std::sqrt(std::max(0.0, lack_of<&Reading::coverage>(a))); }},
     Measure{"irregular", "records without these columns between the first and the last with them", share, lack_of<&Reading::regularity>},
+    Measure{"split", "records with more than one field", share,
+            of_reading<&Reading::split_share>},
+    Measure{"split_much", "records with more than three fields", share,
+            of_reading<&Reading::much_split_share>},
     Measure{"records", "how many records there are, in steps of doubling", number,
             [](A const& a) {
               return a.reading == nullptr ? 0 : magnitude(a.reading->block.regular, 7);
@@ -156,7 +168,9 @@ constexpr std::array measures{
             is_so<([](Reading const& r) { return r.by_ruler; })>},
     Measure{"unequal", "lines of another length than most", share, lack_in<&Reading::equal_lengths, ReadingKind::Fixed>},
     Measure{"torn", "columns that end inside a word", share, of_reading<&Reading::torn_share>},
-    Measure{"as_by_blanks", "blanks split the lines into as many columns", yes_no,
+    Measure{"as_by_blanks", "blanks part the same values", yes_no,
+            is_so<([](Reading const& r) { return r.is_read_by_blanks; })>},
+    Measure{"columns_by_blanks", "blanks split the lines into as many columns", yes_no,
             [](A const& a) {
               return yes_or_no(a.kind == ReadingKind::Fixed &&
                                a.rivals.blank_columns == a.reading->block.columns);
@@ -183,6 +197,14 @@ constexpr std::array measures{
     Measure{"numbers", "words that are numbers", share, of_text<&TextTraits::number_words>},
     Measure{"time_stamps", "lines that begin with a date or a time", share,
             of_text<&TextTraits::time_stamps>},
+    Measure{"logs", "lines with a time in front of prose", share,
+            of_text<&TextTraits::log_lines>},
+    Measure{"levels", "lines with a word such as INFO or ERROR", share,
+            of_text<&TextTraits::log_levels>},
+    Measure{"pairs", "words such as \"name=value\"", share, of_text<&TextTraits::pair_words>},
+    Measure{"single_values", "lines that are one number, date or time as a whole", share,
+            of_text<&TextTraits::single_values>},
+    Measure{"leaders", "lines with a row of points", share, of_text<&TextTraits::leaders>},
     Measure{"colon_keys", "lines that begin with \"name: \"", share,
             of_text<&TextTraits::colon_keys>},
     Measure{"equals_keys", "lines that begin with \"name =\"", share,

@@ -10,6 +10,8 @@
 
 #include "text_format_detection/platform/ascii_internal.hpp"
 #include "text_import/analysis/values/text_internal.hpp"
+#include "text_import/analysis/values/value_grammar_internal.hpp"
+#include "text_import/analysis/values/value_shape_internal.hpp"
 #include "text_import/analysis/values/value_words_internal.hpp"
 
 namespace textimport::analysis {
@@ -32,6 +34,10 @@ constexpr std::array<view, 64> function_words{
     u"if",   u"has",  u"will", u"der",  u"die",  u"das",  u"und",  u"ist",  u"von", u"mit", u"ein",
     u"eine", u"zu",   u"le",   u"la",   u"les",  u"et",   u"est",  u"du",   u"des", u"que", u"el",
     u"los",  u"del",  u"una",  u"por",  u"con",  u"il",   u"che",  u"van",  u"het"};
+
+// How programs call the weight of what they log.
+constexpr std::array<view, 10> log_levels{u"trace", u"debug", u"info",  u"notice",   u"warn",
+                                          u"warning", u"error", u"fatal", u"critical", u"severe"};
 
 double share_of(std::size_t const part, std::size_t const whole) {
   return whole == 0 ? 0 : static_cast<double>(part) / static_cast<double>(whole);
@@ -169,10 +175,17 @@ class TraitCount {
             .words_spread = words_a_line_.relative(),
             .words_a_line = words_a_line_.mean(),
             .addresses = of_lines(addresses_),
+            .log_lines = of_lines(log_lines_),
+            .log_levels = of_lines(level_lines_),
+            .single_values = of_lines(single_values_),
+            .leaders = of_lines(leaders_),
+            .pair_words = share_of(pair_words_, words_),
             .filled_lines = filled_};
   }
 
  private:
+  static constexpr std::size_t longest_value = 40;
+
   static void count(std::size_t& number, bool const is_one) { number += is_one ? 1U : 0U; }
 
   [[nodiscard]] double of_lines(std::size_t const number) const {
@@ -183,10 +196,14 @@ class TraitCount {
     view const last = line.substr(line.size() - 1);
     count(sentence_ends_, view(u".?!:").find(last) != view::npos);
     count(code_ends_, view(u"{};>").find(last) != view::npos || line.front() == u'}' ||
-                          line.front() == u'<');
-    count(time_stamps_, begins_with_time_stamp(line));
+                          line.front() == u'<' || line.front() == u'{');
+    is_stamped_ = begins_with_time_stamp(line);
+    count(time_stamps_, is_stamped_);
     count(tags_, line.find(u"</") != view::npos || line.find(u"/>") != view::npos);
     count(addresses_, line.front() == u'/' || line.find(u"://") != view::npos);
+    count(leaders_, line.find(u"....") != view::npos);
+    count(single_values_, line.size() <= longest_value &&
+                              is_typed(grammar_.look_at_type(line).shape));
     std::size_t const key = key_length(line);
     view const behind = line.substr(key);
     count(colon_keys_, key > 0 && behind.starts_with(u":") && (behind.size() == 1 || is_blank(behind[1])));
@@ -222,6 +239,7 @@ class TraitCount {
   void add_words(view const line) {
     std::size_t words = 0;
     std::size_t small = 0;
+    bool has_level = false;
     for (std::size_t pos = 0; pos < line.size();) {
       std::size_t end = pos;
       while (end < line.size() && !is_blank(line[end])) {
@@ -231,6 +249,9 @@ class TraitCount {
       ++words;
       bool const is_small = is_small_word(word);
       small += is_small ? 1U : 0U;
+      has_level = has_level || is_level(word);
+      std::size_t const equals = word.find(u'=');
+      count(pair_words_, equals != view::npos && equals > 0 && is_letter(word.front()));
       count(number_words_, is_number_word(word));
       count(function_words_, is_small && is_one_of(without_signs(word), function_words));
       pos = end;
@@ -241,6 +262,15 @@ class TraitCount {
     words_ += words;
     words_a_line_.add(words);
     count(prose_lines_, words >= 6 && small * 2 > words);
+    count(log_lines_, is_stamped_ && small >= 2);
+    count(level_lines_, has_level);
+  }
+
+  /// In capital letters as a whole, but for signs round it.
+  static bool is_level(view const word) {
+    view const inner = without_signs(word);
+    return inner.size() >= 4 && inner.front() <= u'Z' && inner.back() <= u'Z' &&
+           is_one_of(inner, log_levels);
   }
 
   /// A word of letters but for signs at its ends.
@@ -252,6 +282,7 @@ class TraitCount {
            });
   }
 
+  bool is_stamped_ = false;  // the line that is looked at
   std::size_t lines_ = 0;
   std::size_t filled_ = 0;
   std::size_t sentence_ends_ = 0;
@@ -265,6 +296,12 @@ class TraitCount {
   std::size_t prose_lines_ = 0;
   std::size_t addresses_ = 0;
   std::size_t words_ = 0;
+  std::size_t single_values_ = 0;
+  std::size_t leaders_ = 0;
+  ValueGrammar grammar_{u'"', {}};
+  std::size_t log_lines_ = 0;
+  std::size_t level_lines_ = 0;
+  std::size_t pair_words_ = 0;
   std::size_t number_words_ = 0;
   std::size_t function_words_ = 0;
   std::size_t characters_ = 0;

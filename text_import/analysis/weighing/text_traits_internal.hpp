@@ -29,6 +29,11 @@ struct TextTraits {
   double words_spread = 0;     ///< the same of the words a line
   double words_a_line = 0;     ///< the mean
   double addresses = 0;        ///< lines with "://" or that begin with a slash
+  double log_lines = 0;        ///< lines with a time stamp at the beginning and prose behind it
+  double log_levels = 0;       ///< lines with a word such as INFO or ERROR
+  double single_values = 0;    ///< lines that are one number, date or time as a whole
+  double leaders = 0;          ///< lines with four points in a row
+  double pair_words = 0;       ///< of the words: "name=value"
   std::size_t filled_lines = 0;  ///< lines that are not blank, of those looked at
 };
 

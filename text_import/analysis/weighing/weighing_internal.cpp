@@ -150,39 +150,56 @@ class Weigher {
     }
   }
 
-  /// The share of all that split the text as the one at `i`.
-  [[nodiscard]] double share_of_alike(std::size_t const i) const {
-    if (i == readings_.size()) {
-      return result_.scores[i].share;
-    }
+  [[nodiscard]] bool is_lines(std::size_t const i) const { return i == readings_.size(); }
+
+  /// Whether two are split at the same delimiter, or both by fixed widths, and so on.
+  [[nodiscard]] bool are_split_alike(std::size_t const a, std::size_t const b) const {
+    return is_lines(a) || is_lines(b) ? a == b : splits_alike(readings_[a], readings_[b]);
+  }
+
+  /// Whether two part the same values: widths may do what blanks do.
+  [[nodiscard]] bool give_alike(std::size_t const a, std::size_t const b) const {
+    auto const by_blanks = [&](std::size_t const i) {
+      return !is_lines(i) &&
+             (readings_[i].layout == Layout::SpaceAligned || readings_[i].is_read_by_blanks);
+    };
+    return are_split_alike(a, b) || (by_blanks(a) && by_blanks(b));
+  }
+
+  /// The share of all that are to the one at `i` as `are_alike` says.
+  template <class Relation>
+  [[nodiscard]] double share_of(std::size_t const i, Relation const are_alike) const {
     double share = 0;
-    for (std::size_t other = 0; other < readings_.size(); ++other) {
-      share += splits_alike(readings_[i], readings_[other]) ? result_.scores[other].share : 0;
+    for (std::size_t other = 0; other < result_.scores.size(); ++other) {
+      share += are_alike(i, other) ? result_.scores[other].share : 0;
     }
     return share;
   }
 
-  /// The best of the kind of reading with the largest share, of those that differ from `except`.
+  [[nodiscard]] double share_of_alike(std::size_t const i) const {
+    return share_of(i, [&](std::size_t const a, std::size_t const b) { return give_alike(a, b); });
+  }
+
+  /// More likely in what it gives, then in how it splits, then by itself.
+  [[nodiscard]] bool is_better(std::size_t const a, std::size_t const b) const {
+    auto const alike = [&](std::size_t const x, std::size_t const y) { return are_split_alike(x, y); };
+    if (!give_alike(a, b)) {
+      return share_of_alike(a) > share_of_alike(b);
+    }
+    return are_split_alike(a, b) ? result_.scores[a].score > result_.scores[b].score
+                                 : share_of(a, alike) > share_of(b, alike);
+  }
+
+  /// The best, of those that give something else than `except`.
   [[nodiscard]] std::optional<std::size_t> best_but(std::optional<std::size_t> const except) const {
     std::optional<std::size_t> best;
-    double best_share = 0;
     for (std::size_t i = 0; i < result_.scores.size(); ++i) {
-      bool const is_left = result_.scores[i].is_table && !(except && are_alike(*except, i));
-      double const share = is_left ? share_of_alike(i) : 0;
-      bool const is_better =
-          !best || share > best_share ||
-          (are_alike(*best, i) && result_.scores[i].score > result_.scores[*best].score);
-      if (is_left && is_better) {
+      bool const is_left = result_.scores[i].is_table && !(except && give_alike(*except, i));
+      if (is_left && (!best || is_better(i, *best))) {
         best = i;
-        best_share = share;
       }
     }
     return best;
-  }
-
-  [[nodiscard]] bool are_alike(std::size_t const a, std::size_t const b) const {
-    std::size_t const lines = readings_.size();
-    return a == b || (a != lines && b != lines && splits_alike(readings_[a], readings_[b]));
   }
 
   void choose() {
@@ -191,7 +208,7 @@ class Weigher {
       return;
     }
     result_.certainty = std::min(surest, share_of_alike(*best));
-    if (*best != readings_.size()) {
+    if (!is_lines(*best)) {
       result_.winner = best;
     }
     result_.runner_up = best_but(best);
