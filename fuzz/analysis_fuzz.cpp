@@ -94,7 +94,13 @@ void require_sound_evidence(Analysis const& found) {
   for (auto const& candidate : evidence.candidates) {
     require(is_share(candidate.coverage) && is_share(candidate.soundness), "measures are shares");
     require(candidate.hypothesis < evidence.hypotheses.size(), "hypotheses exist");
-    require(candidate.rule.value_or(0) < evidence.rules.size(), "rules exist");
+    require(is_share(candidate.share), "how likely it is is a share");
+    double sum = 0;
+    for (auto const& piece : candidate.pieces) {
+      require(piece.measure < evidence.measures.size(), "measures exist");
+      sum += piece.amount;
+    }
+    require(sum == candidate.score, "the pieces make up the score");
   }
   require(evidence.winner.value_or(0) <= evidence.candidates.size(), "the winner exists");
   require(!evidence.runner_up || evidence.runner_up->candidate < evidence.candidates.size(),

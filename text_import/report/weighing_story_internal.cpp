@@ -101,11 +101,11 @@ std::string differences_text(Evidence const& evidence, Candidate const& candidat
 }
 
 /// What speaks for the answer and against it, beside the reading that comes next; and what speaks
-/// most for and against each of the others.
+/// most for and against each of some others.
 std::string scores_text(Evidence const& evidence, ReportStyle const& style) {
   constexpr std::size_t of_answer = 10;
   constexpr std::size_t of_others = 4;
-  constexpr std::size_t others_shown = 3;
+  constexpr std::size_t others_shown = 2;
   auto const ranked = ranked_candidates(evidence);
   if (ranked.size() < 2) {
     return "";
@@ -115,7 +115,7 @@ std::string scores_text(Evidence const& evidence, ReportStyle const& style) {
                           candidate_text(*ranked[0]), candidate_text(*ranked[1])),
               style);
   text += differences_text(evidence, *ranked[0], *ranked[1], of_answer, style.width);
-  for (std::size_t i = 1; i < std::min(ranked.size(), others_shown + 1); ++i) {
+  for (std::size_t i = 2; i < std::min(ranked.size(), others_shown + 2); ++i) {
     text += heading(fmt::format("{}, {} likely: what speaks for it and against it, beside the answer",
                                 candidate_text(*ranked[i]), share_text(ranked[i]->share)),
                     style);

@@ -98,10 +98,11 @@ std::string describe(Analysis const& found) {
   for (std::size_t i = 0; i < format.columns.size(); ++i) {
     describe_column(out, format.columns[i], evidence.columns[i]);
   }
-  for (Candidate const& c : evidence.candidates) {
+  for (std::size_t i = 0; i < evidence.candidates.size(); ++i) {
+    Candidate const& c = evidence.candidates[i];
     out << "reading " << word_of(c.layout) << " '" << support::show(c.delimiter) << "' "
         << c.num_columns << " (" << describe(evidence.hypotheses[c.hypothesis])
-        << "): " << (c.rule ? evidence.rules[*c.rule].name : "won") << "\n";
+        << ")" << (evidence.winner == i ? ": won" : "") << "\n";
   }
   return out.str();
 }

@@ -23,17 +23,17 @@ using textio::platform::is_letter;
 using view = std::u16string_view;
 
 // Enough to see what a text is like.
-constexpr std::size_t lines_looked_at = 200;
+constexpr std::size_t lines_looked_at = 120;
 constexpr std::size_t units_looked_at = 400;  // of a line
 
-// The commonest words without a meaning of their own in languages with the letters a to z.
+// The commonest words without a meaning of their own in languages with the letters a to z, sorted.
 constexpr std::array<view, 64> function_words{
-    u"the",  u"of",   u"and",  u"to",   u"in",   u"is",   u"that", u"for",  u"it",  u"as",  u"was",
-    u"with", u"be",   u"by",   u"on",   u"not",  u"he",   u"but",  u"at",   u"are", u"this", u"have",
-    u"from", u"or",   u"had",  u"an",   u"they", u"which", u"you", u"all",  u"we",  u"when", u"can",
-    u"if",   u"has",  u"will", u"der",  u"die",  u"das",  u"und",  u"ist",  u"von", u"mit", u"ein",
-    u"eine", u"zu",   u"le",   u"la",   u"les",  u"et",   u"est",  u"du",   u"des", u"que", u"el",
-    u"los",  u"del",  u"una",  u"por",  u"con",  u"il",   u"che",  u"van",  u"het"};
+    u"all", u"an", u"and", u"are", u"as", u"at", u"be", u"but", u"by", u"can", u"che", u"con",
+    u"das", u"del", u"der", u"des", u"die", u"du", u"ein", u"eine", u"el", u"est", u"et", u"for",
+    u"from", u"had", u"has", u"have", u"he", u"het", u"if", u"il", u"in", u"is", u"ist", u"it",
+    u"la", u"le", u"les", u"los", u"mit", u"not", u"of", u"on", u"or", u"por", u"que", u"that",
+    u"the", u"they", u"this", u"to", u"una", u"und", u"van", u"von", u"was", u"we", u"when",
+    u"which", u"will", u"with", u"you", u"zu"};
 
 // How programs call the weight of what they log.
 constexpr std::array<view, 10> log_levels{u"trace", u"debug", u"info",  u"notice",   u"warn",
@@ -43,7 +43,7 @@ double share_of(std::size_t const part, std::size_t const whole) {
   return whole == 0 ? 0 : static_cast<double>(part) / static_cast<double>(whole);
 }
 
-bool is_blank(char16_t const c) {
+constexpr bool is_blank(char16_t const c) {
   return c == u' ' || c == u'\t';
 }
 
@@ -122,6 +122,36 @@ bool is_number_word(view const word) {
     }
   }
   return digits > 0;
+}
+
+/// The kinds of ASCII characters, in one look.
+enum CharacterKind : std::uint8_t { OtherSign, Letter, Digit, Blank, Comma };
+
+constexpr std::array<std::uint8_t, 128> character_kinds = [] {
+  std::array<std::uint8_t, 128> kinds{};
+  for (char16_t c = 0; c < kinds.size(); ++c) {
+    kinds[c] = is_letter(c)   ? Letter
+               : is_digit(c)  ? Digit
+               : is_blank(c)  ? Blank
+               : c == u','    ? Comma
+                              : OtherSign;
+  }
+  return kinds;
+}();
+
+/// Everything outside ASCII counts as a letter.
+std::uint8_t character_kind(char16_t const c) {
+  return c < character_kinds.size() ? character_kinds[c] : std::uint8_t{Letter};
+}
+
+bool is_function_word(view const word) {
+  constexpr std::size_t longest = 5;
+  std::array<char16_t, longest> lower{};
+  if (word.size() > longest) {
+    return false;
+  }
+  std::ranges::transform(word, lower.begin(), textio::platform::to_lower);
+  return std::ranges::binary_search(function_words, view(lower.data(), word.size()));
 }
 
 view without_signs(view word) {
@@ -215,22 +245,23 @@ class TraitCount {
     std::uint64_t pattern = 14695981039346656037U;  // FNV-1a
     bool in_word = false;
     bool has_gap = false;
+    std::array<std::size_t, 5> kinds{};
+    std::uint8_t kind = character_kind(line.front());
     for (std::size_t i = 0; i < line.size(); ++i) {
-      char16_t const c = line[i];
-      bool const letter = is_letter(c) || c >= 128;
-      bool const digit = is_digit(c);
-      count(letters_, letter);
-      count(digits_, digit);
-      bool const is_word = letter || digit;
+      std::uint8_t const next = i + 1 < line.size() ? character_kind(line[i + 1]) : std::uint8_t{OtherSign};
+      ++kinds[kind];
+      bool const is_word = kind == Letter || kind == Digit;
       if (!is_word || !in_word) {
-        pattern = (pattern ^ (is_word ? u'a' : c)) * 1099511628211U;
+        pattern = (pattern ^ (is_word ? u'a' : line[i])) * 1099511628211U;
       }
       in_word = is_word;
-      bool const blank_follows = i + 1 < line.size() && is_blank(line[i + 1]);
-      has_gap = has_gap || (is_blank(c) && blank_follows);
-      count(commas_, c == u',');
-      count(comma_blanks_, c == u',' && blank_follows);
+      has_gap = has_gap || (kind == Blank && next == Blank);
+      comma_blanks_ += kind == Comma && next == Blank ? 1U : 0U;
+      kind = next;
     }
+    letters_ += kinds[Letter];
+    digits_ += kinds[Digit];
+    commas_ += kinds[Comma];
     characters_ += line.size();
     count(wide_gaps_, has_gap);
     patterns_.push_back(pattern);
@@ -253,7 +284,7 @@ class TraitCount {
       std::size_t const equals = word.find(u'=');
       count(pair_words_, equals != view::npos && equals > 0 && is_letter(word.front()));
       count(number_words_, is_number_word(word));
-      count(function_words_, is_small && is_one_of(without_signs(word), function_words));
+      count(function_words_, is_small && is_function_word(without_signs(word)));
       pos = end;
       while (pos < line.size() && is_blank(line[pos])) {
         ++pos;
