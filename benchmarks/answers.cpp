@@ -5,9 +5,9 @@
 // "space", "fixed", "line", or "none" for a file that is no text), "delimiter", "widths",
 // "header_lines" (the line, from 0, of the first data), "data_ends_at" (the line behind the last,
 // null: the sample ends before them), "num_columns", "names" (null: none), "types",
-// "decimal_mark", "escape", "encoding", "roles" (of lines that hold no data, by their numbers),
-// "decided", "confidence", and "seconds" for opening, decoding and analysing, the median of RUNS (1
-// unless given). tools/accuracy and tools/compare run it.
+// "type_certainties", "decimal_mark", "escape", "encoding", "roles" (of lines that hold no data, by
+// their numbers), "decided", "confidence", and "seconds" for opening, decoding and analysing, the
+// median of RUNS (1 unless given). tools/accuracy and tools/compare run it.
 #include <algorithm>
 #include <charconv>
 #include <chrono>
@@ -110,6 +110,7 @@ ordered_json answer_about(std::string const& path) {
       {"num_columns", std::max<std::size_t>(format.columns.size(), 1)},
       {"names", names_of(format)},
       {"types", types_of(format)},
+      {"type_certainties", found.certainty.columns},
       {"decimal_mark", decimal_mark_of(format)},
       {"escape", mark(format.quoting.escape)},
       {"encoding", format.source.encoding},

@@ -112,6 +112,7 @@ class Analyst {
     Evidence& evidence = found_.evidence;
     evidence.lines = std::move(said.lines);
     evidence.columns = std::move(said.columns);
+    found_.certainty.columns = std::move(said.column_certainties);
     evidence.units_left_over = said.units_left_over;
     evidence.repeated_names = std::move(said.repeated_names);
     evidence.lines_seen = found_.lines.count();

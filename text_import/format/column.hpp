@@ -57,9 +57,13 @@ struct NumberFormat {
   char16_t decimal_mark = 0;    ///< as the values show it; 0 when none has decimals
   char16_t thousands_mark = 0;  ///< as the values show it
   bool percent = false;         ///< values end in a per cent sign
-  std::u16string currency;      ///< the sign before or behind the values, empty for none
+  bool per_mille = false;       ///< values end in a per mille sign
+  std::u16string currency;      ///< the sign or word before or behind values, empty for none
   /// Negative numbers stand in parentheses.
   bool parentheses_are_negative = false;
+  bool minus_is_behind = false;  ///< negative numbers have their sign at the end: "12.50-"
+  /// Remarks that stand behind some numbers, each once, in the order of appearance: "p", "*".
+  std::vector<std::u16string> flags;
   EpochUnit epoch = EpochUnit::None;
 
   friend bool operator==(NumberFormat const&, NumberFormat const&) = default;

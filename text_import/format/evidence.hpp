@@ -84,6 +84,10 @@ struct ColumnEvidence {
   std::size_t fitting = 0;        ///< of these, those of the type
   std::size_t empty = 0;          ///< fields that are empty
   std::size_t longest_value = 0;  ///< in characters (code points), quotes not counted
+  /// Numbers whose mark may stand before decimals or between thousands, while no number of the
+  /// file tells which.
+  std::size_t open_marks = 0;
+  std::size_t other_marks = 0;  ///< numbers that only fit other marks than those of the column
 };
 
 /// Why the answer is what it is.
@@ -106,7 +110,7 @@ struct Certainty {
   double layout = 0;
   /// First and last line, and names.
   std::optional<double> table;
-  /// The types, column by column.
+  /// The types, column by column, where the lines are split and the data stand as is said.
   std::vector<double> columns;
 };
 

@@ -117,8 +117,11 @@ void visit_members(Visitor& visit, Of<NumberFormat> auto& numbers) {
   visit("decimal_mark", numbers.decimal_mark);
   visit("thousands_mark", numbers.thousands_mark);
   visit("percent", numbers.percent);
+  visit("per_mille", numbers.per_mille);
   visit("currency", numbers.currency);
   visit("parentheses_are_negative", numbers.parentheses_are_negative);
+  visit("minus_is_behind", numbers.minus_is_behind);
+  visit("flags", numbers.flags);
   visit("epoch", numbers.epoch);
 }
 

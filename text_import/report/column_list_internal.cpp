@@ -26,14 +26,15 @@ struct ColumnRun {
   std::u16string last_name;
   Column column;          ///< of all of them together
   ColumnEvidence counts;  ///< likewise
+  double certainty = 1;   ///< the lowest
 };
 
 bool are_alike(Column const& a, Column const& b) {
   auto const key = [](Column const& c) {
-    return std::tuple(c.type, c.type_origin, c.numbers.decimal_mark, c.numbers.thousands_mark,
-                      c.dates.order, c.dates.pattern, c.leading_zeros, c.quoted);
+    return std::tuple(c.type, c.type_origin, c.true_words, c.false_words, c.leading_zeros,
+                      c.quoted);
   };
-  return key(a) == key(b);
+  return key(a) == key(b) && a.numbers == b.numbers && a.dates == b.dates;
 }
 
 void extend(std::optional<Extent>& extent, std::optional<Extent> const& further) {
@@ -50,6 +51,9 @@ void join(ColumnRun& run, ColumnRun const& next) {
   run.counts.values += next.counts.values;
   run.counts.fitting += next.counts.fitting;
   run.counts.empty += next.counts.empty;
+  run.counts.open_marks += next.counts.open_marks;
+  run.counts.other_marks += next.counts.other_marks;
+  run.certainty = std::min(run.certainty, next.certainty);
   run.counts.longest_value = std::max(run.counts.longest_value, next.counts.longest_value);
   auto& words = run.column.missing_words;
   for (std::u16string const& word : next.column.missing_words) {
@@ -61,14 +65,16 @@ void join(ColumnRun& run, ColumnRun const& next) {
   extend(run.column.bytes, next.column.bytes);
 }
 
-std::vector<ColumnRun> column_runs(Format const& format, Evidence const& evidence) {
+std::vector<ColumnRun> column_runs(Format const& format, Evidence const& evidence,
+                                   Certainty const& certainty) {
   constexpr std::size_t few = 24;
   auto const& columns = format.columns;
   std::vector<ColumnRun> runs;
   for (std::size_t i = 0; i < columns.size(); ++i) {
     ColumnEvidence const counts =
         i < evidence.columns.size() ? evidence.columns[i] : ColumnEvidence();
-    ColumnRun run{i, i, columns[i].name, columns[i], counts};
+    double const sure = i < certainty.columns.size() ? certainty.columns[i] : 1;
+    ColumnRun run{i, i, columns[i].name, columns[i], counts, sure};
     if (columns.size() > few && !runs.empty() && are_alike(runs.back().column, columns[i])) {
       join(runs.back(), run);
     } else {
@@ -198,7 +204,7 @@ std::string column_list(Format const& format, std::vector<ColumnRun> const& runs
   std::string text = list_line(list, 0, "");
   for (std::size_t row = 1; row < list.rows.size(); ++row) {
     ColumnRun const& run = runs[row - 1];
-    text += list_line(list, row, column_remarks(run.column, run.counts));
+    text += list_line(list, row, column_remarks(run.column, run.counts, run.certainty));
   }
   if (runs.size() > most) {
     text += fmt::format("    (columns {} to {} are left out)\n", runs[most].first + 1,
@@ -209,12 +215,13 @@ std::string column_list(Format const& format, std::vector<ColumnRun> const& runs
 
 }  // namespace
 
-void add_columns(FactLines& facts, Format const& format, Evidence const& evidence) {
-  auto const runs = column_runs(format, evidence);
+void add_columns(FactLines& facts, Format const& format, Evidence const& evidence,
+                 Certainty const& certainty) {
+  auto const runs = column_runs(format, evidence, certainty);
   std::string count = fmt::format("{}", format.columns.size());
   if (format.columns.size() == 1) {
     ColumnRun const& run = runs.front();
-    std::string const remarks = column_remarks(run.column, run.counts);
+    std::string const remarks = column_remarks(run.column, run.counts, run.certainty);
     count += fmt::format(": {}, the longest value {}{}{}", word_of(run.column.type),
                          run.counts.longest_value, remarks.empty() ? "" : "; ", remarks);
   }

@@ -11,6 +11,7 @@ namespace textimport::reporting {
 
 /// The number of columns and the list of them. In a wide table neighbours that are alike share a
 /// line.
-void add_columns(FactLines& facts, Format const& format, Evidence const& evidence);
+void add_columns(FactLines& facts, Format const& format, Evidence const& evidence,
+                 Certainty const& certainty);
 
 }  // namespace textimport::reporting

@@ -10,7 +10,9 @@
 
 namespace textimport::reporting {
 
-/// "day first; 3 of 20 values are other; 19 empty"; empty when all is as usual.
-[[nodiscard]] std::string column_remarks(Column const& column, ColumnEvidence const& counts);
+/// "day first; 3 of 20 values are other; 19 empty"; empty when all is as usual. `certainty`: of the
+/// type, which is told when it is low.
+[[nodiscard]] std::string column_remarks(Column const& column, ColumnEvidence const& counts,
+                                         double certainty);
 
 }  // namespace textimport::reporting

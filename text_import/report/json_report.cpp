@@ -59,6 +59,8 @@ void write_column_counts(JsonWriter& writer, ColumnEvidence const& column) {
   write_member(writer, "fitting", column.fitting);
   write_member(writer, "empty", column.empty);
   write_member(writer, "longest_value", column.longest_value);
+  write_member(writer, "open_marks", column.open_marks);
+  write_member(writer, "other_marks", column.other_marks);
   writer.end_object();
 }
 

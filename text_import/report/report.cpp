@@ -47,7 +47,7 @@ std::string report(Analysis const& analysis, ReportSubject const& subject,
   FactLines rest(style.width);
   reporting::add_data(rest, analysis);
   reporting::add_noted_lines(rest, analysis);
-  reporting::add_columns(rest, analysis.format, analysis.evidence);
+  reporting::add_columns(rest, analysis.format, analysis.evidence, analysis.certainty);
   reporting::add_text(rest, analysis, subject);
   reporting::add_notes(rest, analysis, subject);
   return reporting::title_line(subject, style.colors) + answer.text() +

@@ -7,17 +7,12 @@
 #include <string_view>
 #include <vector>
 
+#include "text_import/analysis/describing/column_summary_internal.hpp"
 #include "text_import/analysis/describing/header_rows_internal.hpp"
 #include "text_import/analysis/lines/line_index.hpp"
 #include "text_import/analysis/readings/reading_internal.hpp"
-#include "text_import/format/evidence.hpp"
 
 namespace textimport::analysis {
-
-struct DescribedColumn {
-  Column column;  ///< without its name
-  ColumnEvidence counts;
-};
 
 /// One entry for each column, from the regular records of the data. `given`: columns whose types
 /// and marks hold whatever the values say, where there are as many.

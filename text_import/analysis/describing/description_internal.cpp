@@ -13,6 +13,7 @@
 #include "text_import/analysis/describing/given_region_internal.hpp"
 #include "text_import/analysis/describing/header_rows_internal.hpp"
 #include "text_import/analysis/describing/line_roles_internal.hpp"
+#include "text_import/analysis/describing/named_types_internal.hpp"
 #include "text_import/analysis/describing/names_internal.hpp"
 #include "text_import/analysis/describing/region_rules_internal.hpp"
 #include "text_import/analysis/readings/hypothesis_internal.hpp"
@@ -248,6 +249,8 @@ class Describer {
     for (DescribedColumn& described : columns) {
       format().columns.push_back(std::move(described.column));
       said_.columns.push_back(described.counts);
+      said_.column_certainties.push_back(described.certainty);
+      possible_epochs_.push_back(described.possible_epoch);
     }
     set_names(format().columns, {});
   }
@@ -286,7 +289,9 @@ class Describer {
     if (num_records == 0) {
       format().columns.clear();
       said_.columns.clear();
+      said_.column_certainties.clear();
     }
+    settle_by_names(format().columns, possible_epochs_);
     if (!comments.markers.empty() && !comments.markers.front().empty()) {
       std::size_t const end = region.end_line.value_or(lines_.count());
       for (std::size_t line = region.first_line; line < end && !comments.between_data; ++line) {
@@ -309,6 +314,7 @@ class Describer {
   LineIndex const& lines_;
   GivenRegion given_;
   Description said_;
+  std::vector<EpochUnit> possible_epochs_;
 };
 
 }  // namespace

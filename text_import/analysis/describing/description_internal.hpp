@@ -21,6 +21,7 @@ struct Description {
   Format format;
   std::vector<NotedLine> lines;
   std::vector<ColumnEvidence> columns;
+  std::vector<double> column_certainties;
   std::size_t units_left_over = 0;
   std::vector<std::u16string> repeated_names;
   /// The caller names the line behind which the data begin, and there is none like it.

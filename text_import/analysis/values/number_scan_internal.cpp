@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "text_import/analysis/values/number_scan_internal.hpp"
 
+#include <algorithm>
 #include <array>
 
 #include "text_format_detection/platform/ascii_internal.hpp"
 #include "text_format_detection/strategies/value_grammar_internal.hpp"
+#include "text_import/analysis/values/currency_signs_internal.hpp"
 
 namespace textimport::analysis {
 
@@ -17,6 +19,22 @@ bool is_one_of(char16_t const c, view const set) noexcept {
   return set.find(c) != view::npos;
 }
 
+/// The letters at the start of a text up to a blank, a sign or a parenthesis, with a point or a
+/// dollar sign that stands between; 0 when they are too many for a currency or digits follow.
+std::size_t length_of_currency_word(view const text) noexcept {
+  std::size_t length = 0;
+  while (length < text.size() && length <= longest_currency &&
+         (textio::platform::is_letter(text[length]) || text[length] == 0x142 ||
+          text[length] == 0x10D)) {
+    ++length;
+  }
+  bool const has_end = length > 0 && length < text.size() && is_one_of(text[length], u".$");
+  length += has_end ? 1 : 0;
+  bool const stands_apart = length < text.size() && is_one_of(text[length], u" \u00A0\u202F-(");
+  bool const has_dollar = has_end && text[length - 1] == u'$';
+  return length <= longest_currency && (stands_apart || has_dollar) ? length : 0;
+}
+
 /// Takes a number apart from left to right.
 class NumberScan {
  public:
@@ -24,24 +42,23 @@ class NumberScan {
 
   std::optional<ScannedNumber> run() noexcept {
     if (!is_digit(rest_.front())) {
-      drop_sign_and_currency();
+      take_front();
     }
     bool const has_digits = take_groups();
     if (!has_digits || !read_marks()) {
       return std::nullopt;
     }
     take_exponent();
-    if (!rest_.empty()) {
-      bool const has_blank = drop_one_of(u" ");
-      if (!drop_one_of(u"%\u2030\u20AC$") && has_blank) {
-        return std::nullopt;
-      }
+    if ((!rest_.empty() && !take_back()) || is_open_) {
+      return std::nullopt;
     }
-    return rest_.empty() ? std::optional(number_) : std::nullopt;
+    return number_;
   }
 
  private:
   static constexpr std::size_t max_groups = 12;
+  static constexpr view signs = u"+-\u2212";
+  static constexpr view blanks = u" \u00A0\u202F";
 
   bool drop_one_of(view const set) noexcept {
     bool const drops = !rest_.empty() && is_one_of(rest_.front(), set);
@@ -49,13 +66,82 @@ class NumberScan {
     return drops;
   }
 
-  /// One sign, in front of the currency or behind it.
-  void drop_sign_and_currency() noexcept {
-    constexpr view signs = u"+-\u2212";
-    bool const has_sign = drop_one_of(signs);
-    if (drop_one_of(u"$\u20AC\u00A3\u00A5") && !has_sign) {
-      drop_one_of(signs);
+  void drop_blanks() noexcept {
+    while (drop_one_of(blanks)) {
     }
+  }
+
+  /// A parenthesis or a sign, and a currency, each once and in any order.
+  void take_front() noexcept {
+    while (!rest_.empty() && ((!has_sign_ && take_sign()) || take_currency(true))) {
+    }
+  }
+
+  bool take_sign() noexcept {
+    is_open_ = drop_one_of(u"(");
+    has_sign_ = is_open_ || drop_one_of(signs);
+    return has_sign_;
+  }
+
+  /// One that is written in letters stands apart from the digits in front of it, or ends the text.
+  bool take_currency(bool const is_in_front) noexcept {
+    if (number_.dress.currency != 0 || rest_.empty()) {
+      return false;
+    }
+    std::size_t length = 1;
+    number_.dress.currency = currency_number(rest_.front());
+    if (number_.dress.currency == 0) {
+      length = is_in_front ? length_of_currency_word(rest_)
+                           : std::min(rest_.size(), rest_.find_first_of(u"-)"));
+      number_.dress.currency =
+          length <= longest_currency ? currency_number(rest_.substr(0, length)) : std::uint8_t{0};
+    }
+    if (number_.dress.currency == 0) {
+      return false;
+    }
+    rest_.remove_prefix(length);
+    if (is_in_front) {
+      drop_blanks();
+    }
+    return true;
+  }
+
+  /// A per cent sign, a currency, a minus sign, the closing parenthesis; blanks between them.
+  bool take_back() noexcept {
+    do {
+      bool const has_blank = is_one_of(rest_.front(), blanks);
+      drop_blanks();
+      if (rest_.empty() ||
+          !(take_share() || (!has_blank && take_end_of_negative()) || take_currency(false))) {
+        return false;
+      }
+    } while (!rest_.empty());
+    return true;
+  }
+
+  bool take_share() noexcept {
+    NumberDress& dress = number_.dress;
+    if (dress.percent || dress.per_mille) {
+      return false;
+    }
+    dress.percent = drop_one_of(u"%");
+    dress.per_mille = drop_one_of(u"\u2030");
+    return dress.percent || dress.per_mille;
+  }
+
+  /// A mark with nothing behind it and a dash stand for an amount without decimals, and no minus.
+  bool take_end_of_negative() noexcept {
+    if (is_open_ && drop_one_of(u")")) {
+      is_open_ = false;
+      number_.dress.parentheses = true;
+      return true;
+    }
+    if (has_sign_ || groups_[num_marks_] == 0 || !drop_one_of(u"-\u2212")) {
+      return false;
+    }
+    has_sign_ = true;
+    number_.dress.minus_behind = true;
+    return true;
   }
 
   std::size_t take_digits() noexcept {
@@ -66,7 +152,8 @@ class NumberScan {
 
   /// Digit groups and the marks between them; true when there is a digit.
   bool take_groups() noexcept {
-    number_.leading_zeros = rest_.size() > 1 && rest_[0] == u'0' && is_digit(rest_[1]);
+    starts_with_zero_ = rest_.starts_with(u'0');
+    number_.leading_zeros = starts_with_zero_ && rest_.size() > 1 && is_digit(rest_[1]);
     groups_[0] = take_digits();
     bool has_digits = groups_[0] > 0;
     while (!rest_.empty() && num_marks_ + 1 < max_groups && is_mark()) {
@@ -86,9 +173,10 @@ class NumberScan {
   }
 
   /// Groups of a number in thousands: up to three digits, then twos (in the Indian manner) or
-  /// threes, the last one of `end` a three; the same mark between all of them.
+  /// threes, the last one of `end` a three; the same mark between all of them. No such number
+  /// begins with a zero.
   [[nodiscard]] bool are_thousands(std::size_t const end) const noexcept {
-    if (groups_[0] == 0 || groups_[0] > 3 || groups_[end] != 3 ||
+    if (groups_[0] == 0 || groups_[0] > 3 || groups_[end] != 3 || starts_with_zero_ ||
         !is_one_of(marks_[0], rules_.thousands_marks)) {
       return false;
     }
@@ -131,7 +219,7 @@ class NumberScan {
                           (mark != u',' || groups_[1] > 0 || rules_.mark_is_known);
     number_.is_integer = !decimals;
     if (decimals) {
-      number_.marks = {mark, 0, groups && !number_.leading_zeros};
+      number_.marks = {mark, 0, groups};
     } else {
       number_.marks = {0, mark, are_decimals()};
     }
@@ -151,13 +239,24 @@ class NumberScan {
   std::array<std::size_t, max_groups> groups_{};
   std::array<char16_t, max_groups> marks_{};
   std::size_t num_marks_ = 0;
+  bool has_sign_ = false;  ///< a parenthesis is one
+  bool is_open_ = false;   ///< a parenthesis waits for its end
+  bool starts_with_zero_ = false;
   ScannedNumber number_;
 };
+
+/// Whether a text that begins with a letter may be an amount of money: a quick look, since most
+/// such texts are words.
+bool may_be_amount(view const text) noexcept {
+  return (is_digit(text.back()) || is_one_of(text.back(), u")-\u2212")) &&
+         length_of_currency_word(text) > 0;
+}
 
 }  // namespace
 
 std::optional<ScannedNumber> scan_number(view const text, NumberRules const& rules) noexcept {
-  if (text.empty() || text.front() > 0x2212 || (text.front() >= u'A' && text.front() <= u'z')) {
+  if (text.empty() || text.front() > 0x2212 ||
+      (text.front() >= u'A' && text.front() <= u'z' && !may_be_amount(text))) {
     return std::nullopt;  // most values that are no numbers
   }
   return NumberScan(text, rules).run();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Numbers as people write them: with a currency sign, groups of digits, either decimal mark, an
-// exponent, a percent sign.
+// Numbers as people write them: with a currency before or behind, groups of digits, either decimal
+// mark, an exponent, a per cent sign, in parentheses or with the minus sign behind.
 #pragma once
 
 #include <cstddef>
@@ -18,7 +18,7 @@ namespace textimport::analysis {
 struct NumberRules {
   std::u16string decimal_marks = u".,";
   /// Between groups of three digits, or of two in the Indian manner.
-  std::u16string thousands_marks = u".,' \u2019\u00A0\u202F";
+  std::u16string thousands_marks = u".,' \u2019\u00A0\u202F\u2009";
   std::u16string exponent_characters = u"eEdD";
   std::size_t max_decimals = std::u16string::npos;
   /// A mark that is known to be the decimal one needs no digit behind it: "5,".
@@ -29,6 +29,7 @@ struct ScannedNumber {
   bool is_integer = true;
   bool leading_zeros = false;
   NumberMarks marks;
+  NumberDress dress;
 };
 
 /// The number that the whole text is, if it is one. Linear in the text.

@@ -11,6 +11,8 @@
 #include "text_format_detection/platform/ascii_internal.hpp"
 #include "text_format_detection/platform/datetime.hpp"
 #include "text_format_detection/strategies/value_grammar_internal.hpp"
+#include "text_import/analysis/values/column_words_internal.hpp"
+#include "text_import/analysis/values/further_times_internal.hpp"
 #include "text_import/analysis/values/lenient_values_internal.hpp"
 #include "text_import/analysis/values/text_internal.hpp"
 #include "text_import/analysis/values/text_shape_internal.hpp"
@@ -68,7 +70,7 @@ bool is_datetime(view const text, std::u16string const& pattern) {
 bool may_be_date(view const text) noexcept {
   return text.size() >= 6 && text.size() <= 48 &&
          std::ranges::any_of(text, textio::platform::is_digit) &&
-         text.find_first_of(u"-/. :T") != view::npos;
+         text.find_first_of(u"-/. :T\u5E74\uB144") != view::npos;
 }
 
 /// Where the last number of the text begins that has a sign; 0 when none but the first may have
@@ -97,14 +99,33 @@ bool is_complex(view text, NumberRules const& rules) noexcept {
 /// Empty for what is no date in any of the usual forms.
 ValueShape shape_of_usual_date(view const text) {
   if (!may_be_date(text)) {
-    return ValueShape::Empty;
+    return text.front() == u'P' ? shape_of_further_time(text) : ValueShape::Empty;
   }
   auto const is_date = [](view const part) { return is_datetime(part, {}); };
   bool const has_time = text.find(u':') != view::npos;
   if (is_date(text) || (has_time && grammar::is_time_beside_date<LenientValues>(text, is_date))) {
     return has_time ? ValueShape::DateTime : ValueShape::Date;
   }
-  return ValueShape::Empty;
+  return shape_of_further_time(text);
+}
+
+/// How many code units at the end are a remark behind a number: "12.3 p", "45 *", "7*"; 0 for none.
+std::size_t length_of_flag(view const text) noexcept {
+  bool const is_star = text.ends_with(u'*');
+  std::size_t const last = text.find_last_not_of(is_star ? view(u"*") : flag_letters);
+  std::size_t const length = text.size() - (last + 1);
+  if (last == view::npos || length == 0 || length > longest_flag) {
+    return 0;
+  }
+  bool const has_blank = text[last] == u' ';
+  return has_blank || is_star ? length + (has_blank ? 1 : 0) : 0;
+}
+
+/// A quick look.
+bool may_be_flagged(view const text) noexcept {
+  return text.size() >= 2 &&
+         (text.back() == u'*' || flag_letters.find(text.back()) != view::npos) &&
+         (text.front() == u':' || text.front() == u'-' || textio::platform::is_digit(text.front()));
 }
 
 }  // namespace
@@ -112,6 +133,7 @@ ValueShape shape_of_usual_date(view const text) {
 ValueGrammar::ValueGrammar(char16_t const quote, ValueRequest const& request,
                            std::u16string ordinary)
     : quote_(quote),
+      marks_are_given_(request.decimal_mark || request.thousands_mark),
       ordinary_(std::move(ordinary)),
       numbers_(number_rules(request)),
       missing_words_(request.missing_words),
@@ -193,6 +215,7 @@ ValueLook ValueGrammar::look_inside(view const text) const {
   if (auto const number = scan_number(text, numbers_)) {
     look.shape = number->is_integer ? ValueShape::Integer : ValueShape::Real;
     look.marks = number->marks;
+    look.dress = number->dress;
     look.leading_zeros = number->is_integer && number->leading_zeros;
   } else {
     look.shape = shape_of_no_number(text);
@@ -213,8 +236,35 @@ view ValueGrammar::value_of(view const field) const noexcept {
 
 ValueLook ValueGrammar::look_at_type(view const field) const {
   view const text = stripped(field);
-  ValueLook look = look_inside(value_of(text));
+  view const value = value_of(text);
+  ValueLook look = look_inside(value);
+  if (look.shape == ValueShape::Word && may_be_flagged(value)) {
+    look = look_behind_flag(value);
+  }
   look.quoted = stands_in(text, quote_);
+  return look;
+}
+
+/// A number with a remark behind it, as statistics offices write them; or a colon with one, which
+/// is no value.
+ValueLook ValueGrammar::look_behind_flag(view const text) const {
+  std::size_t const length = length_of_flag(text);
+  ValueLook look;
+  if (length == 0) {
+    look.shape = ValueShape::Word;
+    return look;
+  }
+  view const number = trimmed(text.substr(0, text.size() - length));
+  if (number == u":") {
+    look.shape = ValueShape::Missing;
+    return look;
+  }
+  look = look_inside(number);
+  look.dress.flag = static_cast<std::uint8_t>(length);
+  if (look.shape != ValueShape::Integer && look.shape != ValueShape::Real) {
+    look = {};
+    look.shape = ValueShape::Word;
+  }
   return look;
 }
 

@@ -35,12 +35,15 @@ class ValueGrammar {
   [[nodiscard]] ValueLook look_at(std::u16string_view field) const;
 
   /// The same for those who ask for the type alone: every text is a Word, and is not looked through
-  /// for what a cut at the wrong place leaves.
+  /// for what a cut at the wrong place leaves. A number may have a remark behind it: "12.3 p".
   [[nodiscard]] ValueLook look_at_type(std::u16string_view field) const;
 
   /// What is looked at: the field without blanks around it, one pair of quotes and the leading
   /// character. A view into the field.
   [[nodiscard]] std::u16string_view value_of(std::u16string_view field) const noexcept;
+
+  /// Whether the caller says what the marks of numbers are, as far as a number may have several.
+  [[nodiscard]] bool marks_are_given() const noexcept { return marks_are_given_; }
 
  private:
   [[nodiscard]] std::u16string_view stripped(std::u16string_view const text) const noexcept {
@@ -48,11 +51,13 @@ class ValueGrammar {
   }
 
   [[nodiscard]] ValueLook look_inside(std::u16string_view text) const;
+  [[nodiscard]] ValueLook look_behind_flag(std::u16string_view text) const;
   [[nodiscard]] ValueShape shape_of_word(std::u16string_view text) const;
   [[nodiscard]] ValueShape shape_of_no_number(std::u16string_view text) const;
   [[nodiscard]] ValueShape shape_by_pattern(std::u16string_view text) const;
 
   char16_t quote_;
+  bool marks_are_given_;
   std::u16string ordinary_;
   NumberRules numbers_;
   std::optional<std::vector<std::u16string>> missing_words_;

@@ -35,9 +35,20 @@ struct NumberMarks {
   bool either = false;
 };
 
+/// What stands around the digits of a number.
+struct NumberDress {
+  bool percent = false;
+  bool per_mille = false;
+  bool parentheses = false;   ///< an accountant's negative number
+  bool minus_behind = false;  ///< "12.50-"
+  std::uint8_t currency = 0;  ///< position in currency_signs plus one; 0: none
+  std::uint8_t flag = 0;      ///< code units of a remark at the end, such as " p" for provisional
+};
+
 struct ValueLook {
   ValueShape shape = ValueShape::Empty;
   NumberMarks marks;           ///< of an integer or a real number
+  NumberDress dress;           ///< likewise
   bool quoted = false;         ///< stood in quotes, which were taken off
   bool leading_zeros = false;  ///< an integer with zeros in front: a code rather than a number
 };

@@ -8,6 +8,7 @@
 
 #include "tests/support/table.hpp"
 #include "tests/support/text.hpp"
+#include "text_import/analysis/values/currency_signs_internal.hpp"
 #include "text_import/analysis/values/value_grammar_internal.hpp"
 
 namespace textimport::analysis {
@@ -25,11 +26,19 @@ std::string show_mark(std::string const& name, char16_t const mark) {
   return mark == 0 ? "" : " " + name + '=' + (mark == u' ' ? "blank" : character);
 }
 
+std::string show(NumberDress const& dress) {
+  std::u16string const sign(currency_sign(dress.currency));
+  return (sign.empty() ? "" : " currency=" + support::show(sign)) +
+         (dress.percent ? " percent" : "") + (dress.per_mille ? " mille" : "") +
+         (dress.parentheses ? " parentheses" : "") + (dress.minus_behind ? " behind" : "") +
+         (dress.flag > 0 ? " flag" : "");
+}
+
 std::string show(ValueLook const& look) {
   return shape_names.at(static_cast<std::size_t>(look.shape)) +
          show_mark("decimal", look.marks.decimal) + show_mark("thousands", look.marks.thousands) +
-         (look.marks.either ? " either" : "") + (look.leading_zeros ? " zeros" : "") +
-         (look.quoted ? " quoted" : "");
+         (look.marks.either ? " either" : "") + show(look.dress) +
+         (look.leading_zeros ? " zeros" : "") + (look.quoted ? " quoted" : "");
 }
 
 std::u16string text_of(json const& with, char const* const name) {
@@ -99,6 +108,19 @@ TEST(value_grammar, gives_the_value_that_it_looks_at) {
   EXPECT_EQ(ValueGrammar(0, {}).look_at(u"").shape, ValueShape::Empty);
   EXPECT_EQ(ValueGrammar(0, {}).look_at(u" \t").shape, ValueShape::Empty);
   EXPECT_EQ(ValueGrammar(0, {}).look_at(u"\"a").shape, ValueShape::Word) << "no quotes";
+}
+
+TEST(value_grammar, takes_remarks_behind_numbers_where_the_type_alone_is_asked_for) {
+  ValueGrammar const grammar(u'"', {});
+  EXPECT_EQ(show(grammar.look_at_type(u"12.3 p")), "real decimal=. flag");
+  EXPECT_EQ(show(grammar.look_at_type(u"\"1 234 be\"")), "integer thousands=blank flag quoted");
+  EXPECT_EQ(show(grammar.look_at_type(u"45*")), "integer flag");
+  EXPECT_EQ(show(grammar.look_at_type(u"-4,5 **")), "real decimal=, flag");
+  EXPECT_EQ(show(grammar.look_at_type(u": c")), "missing");
+  for (char16_t const* const text : {u"12.3p", u"12 x", u"12 bepu", u"p", u"x 12 p", u"1-2 p"}) {
+    EXPECT_EQ(show(grammar.look_at_type(text)), "word");
+  }
+  EXPECT_EQ(show(grammar.look_at(u"12.3 p")), "phrase") << "elsewhere it may be a cut";
 }
 
 TEST(value_grammar, takes_long_texts_in_one_walk) {
