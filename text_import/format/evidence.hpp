@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "text_import/format/format.hpp"
+#include "text_import/format/line_syntax.hpp"
 
 namespace textimport {
 
@@ -20,6 +21,7 @@ struct Hypothesis {
   bool quotes_are_ordinary = false;             ///< quotes belong to the values
   bool apostrophes_quote = false;               ///< apostrophes are the quotes
   std::vector<std::u16string> comment_markers;  ///< guessed ones, as CommentFormat::markers
+  LineSyntax syntax;                            ///< what lines have beside, as far as it is guessed
 
   friend bool operator==(Hypothesis const&, Hypothesis const&) = default;
 };

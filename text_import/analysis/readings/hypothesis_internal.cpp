@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "text_format_detection/model/unit_search_internal.hpp"
+#include "text_import/analysis/readings/syntax_guesses_internal.hpp"
 #include "text_import/analysis/values/text_internal.hpp"
 
 namespace textimport::analysis {
@@ -16,6 +17,8 @@ namespace {
 using view = std::u16string_view;
 
 constexpr std::array<view, 8> line_markers{u"#", u"%", u"//", u";", u"!", u"*", u"--", u"@"};
+
+constexpr std::size_t most_hypotheses = 8;
 
 // Enough lines to see whether something recurs.
 constexpr std::size_t lines_looked_at = 400;
@@ -127,24 +130,49 @@ void add_comments(std::vector<AssumedOptions>& assumed, std::vector<std::u16stri
   }
 }
 
+/// Each guess at what lines have beside, with what is given and with the comments that were found.
+void add_syntax(std::vector<AssumedOptions>& assumed, std::vector<SyntaxGuess> const& guesses) {
+  std::size_t const plain = assumed.size();
+  bool const has_comments = !assumed.back().hypothesis.comment_markers.empty();
+  for (std::size_t const base : {std::size_t{0}, plain / 2}) {
+    for (SyntaxGuess const& guess : guesses) {
+      bool const is_done = base > 0 && (!has_comments || !guess.comment_markers.empty());
+      if (is_done || assumed.size() == most_hypotheses) {
+        continue;
+      }
+      AssumedOptions with = assumed[base];
+      with.refined = base;
+      with.syntax = guess.syntax;
+      with.hypothesis.syntax = guess.syntax;
+      with.parsing.delimiters = guess.delimiters.empty() ? with.parsing.delimiters : guess.delimiters;
+      if (!guess.comment_markers.empty()) {
+        with.hypothesis.comment_markers = guess.comment_markers;
+        with.parsing.comment_style = guess.comment_markers;
+      }
+      assumed.push_back(std::move(with));
+    }
+  }
+}
+
 }  // namespace
 
 std::vector<AssumedOptions> propose_hypotheses(LineIndex const& lines, Task const& task) {
-  std::vector<AssumedOptions> assumed{{{}, task.parsing}};
+  std::vector<AssumedOptions> assumed{{{}, task.parsing, task.syntax}};
   char16_t const quote = quote_of(task.parsing);
   if (!task.request.quote) {
     if (quote != 0 && holds(lines, quote) && has_odd_quotes(lines, quote)) {
-      assumed.push_back({{.quotes_are_ordinary = true}, task.parsing});
+      assumed.push_back({{.quotes_are_ordinary = true}, task.parsing, task.syntax});
       assumed.back().parsing.quote_characters.clear();
     }
     if (quote != u'\'' && holds(lines, u'\'') && has_apostrophe_quotes(lines)) {
-      assumed.push_back({{.apostrophes_quote = true}, task.parsing});
+      assumed.push_back({{.apostrophes_quote = true}, task.parsing, task.syntax});
       assumed.back().parsing.quote_characters = u"'";
     }
   }
   if (!task.request.comment_markers) {
     add_comments(assumed, find_comment_style(lines));
   }
+  add_syntax(assumed, guess_line_syntax(lines, task));
   return assumed;
 }
 
