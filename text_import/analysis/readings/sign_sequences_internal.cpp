@@ -25,21 +25,21 @@ constexpr std::size_t most_sequences = 4;
 
 using Range = std::pair<char16_t, char16_t>;
 
-// Outside ASCII: signs of Latin-1, of Armenian, Arabic and Indian scripts, general punctuation to
+// Outside ASCII: signs of Latin-1 but those of money and degrees, of Armenian, Arabic and Indian scripts, general punctuation to
 // arrows, boxes and shapes, signs of East Asian scripts with their wide and vertical forms, and the
 // private characters that some programs take for it.
-constexpr std::array<Range, 18> foreign_signs{{{0xA1, 0xA9},
-                                               {0xAB, 0xB1},
+constexpr std::array<Range, 18> foreign_signs{{{0xA6, 0xA9},
+                                               {0xAB, 0xAF},
                                                {0xB4, 0xB4},
                                                {0xB6, 0xB8},
                                                {0xBB, 0xBB},
-                                               {0xBF, 0xBF},
                                                {0x55A, 0x55F},
                                                {0x60C, 0x61F},
                                                {0x66A, 0x66D},
                                                {0x6D4, 0x6D4},
                                                {0x964, 0x965},
-                                               {0x2010, 0x2BFF},
+                                               {0x2010, 0x209F},
+                                               {0x2100, 0x2BFF},
                                                {0x3001, 0x3003},
                                                {0x3008, 0x301F},
                                                {0xE000, 0xF8FF},
@@ -179,6 +179,14 @@ class SequenceSearch {
     return counts;
   }
 
+  /// Whether some line holds the sign of a doubled or tripled one alone.
+  [[nodiscard]] bool is_single_elsewhere(view const text) const {
+    bool const is_repeated = text.find_first_not_of(text.front()) == view::npos;
+    return is_repeated && std::ranges::any_of(lines_, [&](view const line) {
+             return line.find(text.front()) != view::npos && line.find(text) == view::npos;
+           });
+  }
+
   /// Whether one of the signs recurs by itself and stands outside of the sequence as well: then the
   /// sequence is that sign beside empty fields or other signs.
   [[nodiscard]] bool is_accident(view const text) const {
@@ -198,7 +206,8 @@ class SequenceSearch {
 
   void drop_parts(std::vector<std::pair<std::size_t, std::u16string>>& found) const {
     std::erase_if(found, [&](auto const& each) {
-      return each.second.size() > 1 && is_accident(each.second);
+      return each.second.size() > 1 &&
+             (is_single_elsewhere(each.second) || is_accident(each.second));
     });
     auto const all = found;
     std::erase_if(found, [&](auto const& each) {
