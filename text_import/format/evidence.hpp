@@ -19,7 +19,7 @@ namespace textimport {
 /// What is assumed of a text before it is read.
 struct Hypothesis {
   bool quotes_are_ordinary = false;             ///< quotes belong to the values
-  bool apostrophes_quote = false;               ///< apostrophes are the quotes
+  char16_t quote = 0;                           ///< another quote than what is given; 0: that one
   std::vector<std::u16string> comment_markers;  ///< guessed ones, as CommentFormat::markers
   LineSyntax syntax;                            ///< what lines have beside, as far as it is guessed
 

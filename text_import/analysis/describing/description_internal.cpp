@@ -93,7 +93,7 @@ class Describer {
 
   Description describe_table(Reading const& r, Hypothesis const& hypothesis) {
     set_layout(r);
-    set_quoting(r.quote, hypothesis.quotes_are_ordinary || hypothesis.apostrophes_quote);
+    set_quoting(r.quote, hypothesis.quotes_are_ordinary || hypothesis.quote != 0);
     set_syntax(r.syntax, hypothesis.syntax);
     set_comments(r.strategy->options().comment_style, !hypothesis.comment_markers.empty());
     bool const is_behind_all =
