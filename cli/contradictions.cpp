@@ -134,6 +134,23 @@ void check_marks(Arguments const& arguments, Request const& request) {
   }
 }
 
+/// An escape that means something else, too. A quote in front of a quote is a doubled one.
+void check_escape(Arguments const& arguments, Request const& request) {
+  if (request.escape.value_or(0) == 0) {
+    return;
+  }
+  std::string const escape = typed(arguments, Option::Escape);
+  std::u16string const text(1, *request.escape);
+  if (std::ranges::find(request.delimiters, text) != request.delimiters.end()) {
+    refuse(escape, "--delimiter", one_meaning);
+  }
+  if (request.escape == request.quote.value_or(u'"')) {
+    refuse(escape,
+           typed_or(arguments, Option::Quote, "the quote character (a quotation mark by default)"),
+           "a doubled quote stands for one without it");
+  }
+}
+
 /// Delimiters that mean something else, too.
 void check_delimiters(Arguments const& arguments, Request const& request) {
   auto const is_delimiter = [&](std::u16string const& text) {
@@ -202,6 +219,7 @@ void check_contradictions(Arguments const& arguments, Request const& request) {
   check_rules(arguments, request);
   check_counts(arguments, request);
   check_marks(arguments, request);
+  check_escape(arguments, request);
   check_delimiters(arguments, request);
   if (arguments.has(Option::Library) && arguments.has(Option::ExcludeDelimiter)) {
     refuse(flag(Option::Library), typed(arguments, Option::ExcludeDelimiter),

@@ -71,6 +71,9 @@ constexpr std::array option_table{
                "close a comment. \"none\": there are no comments."},
     OptionSpec{Option::Quote, Section::Records, 'q', "quote", "CHAR", none, false,
                "The character around quoted fields, or \"none\". Default: the quotation mark."},
+    OptionSpec{Option::Escape, Section::Records, 0, "escape", "CHAR", none, false,
+               "The character that takes the meaning of a delimiter or quote behind it, such as a "
+               "backslash, or \"none\". Default: it is found out."},
     OptionSpec{Option::Whitespace, Section::Records, 0, "whitespace", "CHARS", none, false,
                "The characters that make a line blank and are trimmed from values. Default: space "
                "and tab."},

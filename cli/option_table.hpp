@@ -42,6 +42,7 @@ enum class Option : std::uint8_t {
   // records and fields
   Comment,
   Quote,
+  Escape,
   Whitespace,
   LineEnding,
   Consecutive,

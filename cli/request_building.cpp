@@ -147,6 +147,9 @@ void take_records(Arguments const& arguments, Task& task) {
   with_value(arguments, Option::Quote, [&](std::string const& word) {
     request.quote = word == "none" ? u'\0' : character_value(Option::Quote, word);
   });
+  with_value(arguments, Option::Escape, [&](std::string const& word) {
+    request.escape = word == "none" ? u'\0' : character_value(Option::Escape, word);
+  });
   with_value(arguments, Option::Whitespace, [&](std::string const& word) {
     request.whitespace = text_value(Option::Whitespace, word);
   });

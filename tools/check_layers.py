@@ -35,7 +35,8 @@ UNDER_SOURCE = [
     f"{ENGINE}/platform/text_stream.hpp",
     f"{ENGINE}/platform/ascii_internal.hpp",
 ]
-UNDER_ANALYSIS = [f"{IMPORT}/*", f"{IMPORT}/format/", f"{ENGINE}/"]
+UNDER_SPLITTING = [f"{IMPORT}/*", f"{IMPORT}/format/", f"{ENGINE}/"]
+UNDER_ANALYSIS = [*UNDER_SPLITTING, f"{IMPORT}/splitting/"]
 UNDER_READINGS = [*UNDER_ANALYSIS, f"{ANALYSIS}/lines/", f"{ANALYSIS}/values/"]
 
 # By folder what its files may include beside itself: "folder/" with all below it, "folder/*" for
@@ -53,6 +54,7 @@ FOLDERS = {
     f"{SOURCE}/encoding": [*UNDER_SOURCE, f"{SOURCE}/bytes/"],
     f"{SOURCE}/compression": [*UNDER_SOURCE, f"{SOURCE}/bytes/", f"{SOURCE}/encoding/"],
     SOURCE: [*UNDER_SOURCE, f"{SOURCE}/"],
+    f"{IMPORT}/splitting": UNDER_SPLITTING,
     f"{ANALYSIS}/lines": UNDER_ANALYSIS,
     f"{ANALYSIS}/values": UNDER_ANALYSIS,
     f"{ANALYSIS}/readings": UNDER_READINGS,

@@ -38,7 +38,7 @@ struct Analysis {
 };
 
 /// Analyses a sample, which outlives the result. Deterministic. Takes time linear in the sample for
-/// each hypothesis, of which there are at most six, and for each candidate of the engine; the
+/// each hypothesis, of which there are at most eight, and for each candidate of the engine; the
 /// engine decides once for each hypothesis. Throws std::bad_alloc.
 [[nodiscard]] TEXT_IMPORT_API Analysis analyse(TextSample const& sample, Request const& request);
 

@@ -12,14 +12,16 @@
 #include <vector>
 
 #include "text_import/format/format.hpp"
+#include "text_import/format/line_syntax.hpp"
 
 namespace textimport {
 
 /// What is assumed of a text before it is read.
 struct Hypothesis {
   bool quotes_are_ordinary = false;             ///< quotes belong to the values
-  bool apostrophes_quote = false;               ///< apostrophes are the quotes
+  char16_t quote = 0;                           ///< another quote than what is given; 0: that one
   std::vector<std::u16string> comment_markers;  ///< guessed ones, as CommentFormat::markers
+  LineSyntax syntax;                            ///< what lines have beside, as far as it is guessed
 
   friend bool operator==(Hypothesis const&, Hypothesis const&) = default;
 };

@@ -56,6 +56,7 @@ void visit_members(Visitor& visit, Of<QuotingFormat> auto& quoting) {
   visit("quote", quoting.quote);
   visit("escape_kind", quoting.escape_kind);
   visit("escape", quoting.escape);
+  visit("behind_blanks", quoting.behind_blanks);
   visit("origin", quoting.origin);
 }
 

@@ -56,6 +56,8 @@ struct Request {
   std::optional<std::size_t> header_lines;
 
   std::optional<char16_t> quote;  ///< 0: no field is quoted
+  /// What takes the meaning of a delimiter or quote behind it; 0: nothing does.
+  std::optional<char16_t> escape;
   /// As CommentFormat::markers; an empty list: there are no comments.
   std::optional<std::vector<std::u16string>> comment_markers;
   std::optional<std::u16string> whitespace;

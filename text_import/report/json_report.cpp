@@ -141,8 +141,15 @@ void begin_report(JsonWriter& writer, Analysis const& analysis, ReportSubject co
 void write_hypothesis(JsonWriter& writer, Hypothesis const& hypothesis) {
   writer.begin_object();
   write_member(writer, "quotes_are_ordinary", hypothesis.quotes_are_ordinary);
-  write_member(writer, "apostrophes_quote", hypothesis.apostrophes_quote);
+  write_member(writer, "quote", hypothesis.quote);
   write_member(writer, "comment_markers", hypothesis.comment_markers);
+  LineSyntax const& syntax = hypothesis.syntax;
+  write_member(writer, "outer_bars", syntax.has_outer_bars);
+  write_member(writer, "rulers", syntax.has_rulers);
+  write_member(writer, "escape", syntax.escape);
+  write_member(writer, "comments_at_line_ends", syntax.has_end_comments);
+  write_member(writer, "quotes_behind_blanks", syntax.quotes_behind_blanks);
+  write_member(writer, "rest_of_line", syntax.rest_of_line);
   writer.end_object();
 }
 

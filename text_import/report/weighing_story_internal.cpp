@@ -9,6 +9,8 @@
 #include <fmt/format.h>
 
 #include "text_import/format/utf.hpp"
+#include "text_import/report/character_names.hpp"
+#include "text_import/report/display_text.hpp"
 #include "text_import/report/headings_internal.hpp"
 #include "text_import/report/reading_words_internal.hpp"
 #include "text_import/report/score_words_internal.hpp"
@@ -25,22 +27,47 @@ std::string comments_text(std::vector<std::u16string> const& markers) {
                                            in_quotes(markers[1]));
 }
 
+/// What lines are assumed to have beside delimiters, quotes and comment lines.
+void add_syntax(LineSyntax const& syntax, std::vector<std::string>& assumed,
+                std::vector<std::string>& reasons) {
+  auto const add = [&](bool const is_assumed, std::string const& text, char const* const reason) {
+    if (is_assumed) {
+      assumed.push_back(text);
+      reasons.emplace_back(reason);
+    }
+  };
+  add(syntax.has_outer_bars, "bars stand at both ends of each record", "they do in most lines");
+  add(syntax.has_rulers, "lines that are drawn are no records", "there are such lines");
+  add(syntax.escape != 0,
+      fmt::format("{} takes the meaning of what follows", display_text({&syntax.escape, 1}).utf8),
+      "it stands before a delimiter or a quote");
+  add(syntax.has_end_comments, "comments stand at the ends of lines",
+      "the marker stands behind data between blanks");
+  add(syntax.quotes_behind_blanks, "blanks stand before quotes",
+      "a quote stands behind a delimiter and blanks");
+  add(syntax.rest_of_line > 0,
+      fmt::format("field {} is the rest of the line", syntax.rest_of_line),
+      "what blanks split in front of it is the same in each line");
+}
+
 /// What is assumed, and what in the text gives reason to.
 std::string hypothesis_text(Hypothesis const& hypothesis) {
   std::vector<std::string> assumed;
-  std::vector<std::string_view> reasons;
+  std::vector<std::string> reasons;
   if (hypothesis.quotes_are_ordinary) {
     assumed.emplace_back("quotes are ordinary characters");
     reasons.emplace_back("a line holds an odd number of quotes");
   }
-  if (hypothesis.apostrophes_quote) {
-    assumed.emplace_back("apostrophes are the quotes");
-    reasons.emplace_back("apostrophes open and close fields in many lines");
+  if (char16_t const quote = hypothesis.quote; quote != 0) {
+    std::string const name = delimiter_names({&quote, 1});
+    assumed.push_back(fmt::format("{} are the quotes", name));
+    reasons.push_back(fmt::format("{} open and close fields in many lines", name));
   }
   if (!hypothesis.comment_markers.empty()) {
     assumed.push_back(comments_text(hypothesis.comment_markers));
     reasons.emplace_back("so do some lines");
   }
+  add_syntax(hypothesis.syntax, assumed, reasons);
   return assumed.empty()
              ? "what is given, and the usual where nothing is"
              : fmt::format("{}: {}", fmt::join(assumed, ", "), fmt::join(reasons, "; "));

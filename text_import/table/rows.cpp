@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 //
-// The engine's reader splits the records; here values lose what only marks them.
+// Records are split elsewhere; here values lose what only marks them.
 #include "text_import/table/rows.hpp"
 
 #include <algorithm>
 
 #include "text_format_detection/model/field_array.hpp"
-#include "text_format_detection/reading/read_records.hpp"
 #include "text_import/analysis/readings/reading_options.hpp"
 #include "text_import/analysis/values/text_internal.hpp"
+#include "text_import/splitting/record_splitter_internal.hpp"
 
 namespace textimport {
 
@@ -16,11 +16,15 @@ namespace {
 
 using view = std::u16string_view;
 
-/// A quoted value without its quotes, a doubled one inside standing for one.
-std::u16string without_quotes(view const value, char16_t const quote) {
-  return analysis::stands_in(value, quote)
-             ? analysis::with_single_quotes(value.substr(1, value.size() - 2), quote)
-             : std::u16string(value);
+/// A value without its quotes and escapes, a doubled quote inside standing for one.
+std::u16string plain_value(view const value, Format const& format, char16_t const escape) {
+  char16_t const quote = format.quoting.quote;
+  bool const is_quoted = analysis::stands_in(value, quote);
+  view const inside = is_quoted ? value.substr(1, value.size() - 2) : value;
+  auto plain = is_quoted ? analysis::with_single_quotes(inside, quote, escape)
+                         : std::u16string(inside);
+  return escape == 0 ? plain
+                     : analysis::without_escapes(plain, escape, quote, format.layout.delimiters);
 }
 
 /// A rule whose value Error is turned into the plain one.
@@ -39,15 +43,15 @@ std::vector<Row> read_rows(Format const& format, view const data, std::size_t co
   forgive(options.empty_lines);
   forgive(options.partial_field_rule);
   textio::FieldArray fields;
-  textio::read_records(options, reading_mode(format.layout.layout), textio::Field(data), most,
-                       textio::unknown_count, fields);
+  LineSyntax const syntax = splitting::line_syntax_of(format);
+  splitting::read_records(options, reading_mode(format.layout.layout), syntax, data, most, fields);
   bool const is_split = !options.delimiters.empty();
   std::vector<Row> rows;
   for (std::size_t record = 0; record < std::min(fields.num_records(), most); ++record) {
     Row& row = rows.emplace_back();
     for (textio::Field const& field : fields.record(record)) {
-      row.push_back(is_split ? without_quotes(analysis::trimmed(field.view(), options.whitespace),
-                                              format.quoting.quote)
+      row.push_back(is_split ? plain_value(analysis::trimmed(field.view(), options.whitespace),
+                                           format, syntax.escape)
                              : std::u16string(field.view()));
     }
   }

@@ -94,7 +94,8 @@ class Describer {
 
   Description describe_table(Reading const& r, Hypothesis const& hypothesis) {
     set_layout(r);
-    set_quoting(r.quote, hypothesis.quotes_are_ordinary || hypothesis.apostrophes_quote);
+    set_quoting(r.quote, hypothesis.quotes_are_ordinary || hypothesis.quote != 0);
+    set_syntax(r.syntax, hypothesis.syntax);
     set_comments(r.strategy->options().comment_style, !hypothesis.comment_markers.empty());
     bool const is_behind_all =
         given_.first && (r.records.empty() || r.records.back().line < *given_.first);
@@ -196,6 +197,22 @@ class Describer {
         given_or(task_.request.quote.has_value(), is_found ? Origin::Found : Origin::Default);
   }
 
+  void set_syntax(LineSyntax const& syntax, LineSyntax const& guessed) {
+    QuotingFormat& quoting = format().quoting;
+    format().region.has_outer_bars = syntax.has_outer_bars;
+    format().region.has_rulers = syntax.has_rulers;
+    format().comments.at_line_ends = syntax.has_end_comments;
+    quoting.behind_blanks = syntax.quotes_behind_blanks;
+    if (syntax.escape != 0) {
+      quoting.escape_kind = QuoteEscape::Character;
+      quoting.escape = syntax.escape;
+    }
+    bool const is_found = guessed.escape != 0 || guessed.quotes_behind_blanks;
+    if (is_found && quoting.origin == Origin::Default) {
+      quoting.origin = Origin::Found;
+    }
+  }
+
   void set_comments(std::vector<std::u16string> const& markers, bool const is_found) {
     CommentFormat& comments = format().comments;
     comments.markers = markers;
@@ -210,6 +227,7 @@ class Describer {
       format().layout.has_blanks_around_delimiters = has_blanks_around(r, rows);
     }
     set_columns(describe_columns(r, rows, lines_, given_columns()));
+    format().columns.back().is_rest_of_line = r.syntax.rest_of_line > 0;
     set_names(format().columns, std::move(around.names));
     format().region.name_lines = std::move(around.name_lines);
     format().region.first_line = around.data_starts_at;

@@ -6,9 +6,10 @@
 #include <span>
 
 #include "text_format_detection/model/field_array.hpp"
-#include "text_format_detection/reading/read_records.hpp"
 #include "text_import/analysis/values/text_internal.hpp"
 #include "text_import/analysis/values/value_shape_internal.hpp"
+#include "text_import/splitting/record_splitter_internal.hpp"
+#include "text_import/splitting/rulers_internal.hpp"
 
 namespace textimport::analysis {
 
@@ -18,8 +19,9 @@ using view = std::u16string_view;
 
 bool is_ruler(view const line) {
   view const text = trimmed(line);
-  return text.size() >= 3 && text.find_first_not_of(u"-=_+|:;,*~# \t") == view::npos &&
-         text.find_first_of(u"-=_*~") != view::npos;
+  return splitting::is_ruler(text) ||
+         (text.size() >= 3 && text.find_first_not_of(u"-=_+|:;,*~# \t") == view::npos &&
+          text.find_first_of(u"-=_*~") != view::npos);
 }
 
 bool is_separator_line(view const line) {
@@ -31,11 +33,16 @@ bool is_comment(view const line, textio::parser::options const& parsing) {
          line.starts_with(parsing.comment_style.front());
 }
 
-/// The text of a field as a name: unquoted, and doubled quotes made single ones.
-std::u16string name_of_field(view const field, char16_t const quote) {
-  view const name = unquoted(field, quote);
-  bool const was_quoted = quote != 0 && trimmed(field).starts_with(quote);
-  return was_quoted ? with_single_quotes(name, quote) : std::u16string(name);
+/// The text of a field as a name: unquoted, doubled quotes made single ones, without escapes.
+std::u16string name_of_field(view const field, Reading const& r) {
+  view const name = unquoted(field, r.quote);
+  bool const was_quoted = r.quote != 0 && trimmed(field).starts_with(r.quote);
+  char16_t const escape = r.syntax.escape;
+  auto plain =
+      was_quoted ? with_single_quotes(name, r.quote, escape) : std::u16string(name);
+  return escape == 0
+             ? plain
+             : without_escapes(plain, escape, r.quote, r.strategy->options().delimiters);
 }
 
 /// The line without a comment marker in front of it, of whatever kind.
@@ -49,10 +56,10 @@ std::vector<std::u16string> split_line(Reading const& r, view const line) {
   textio::FieldArray fields;
   auto options = r.strategy->options();
   options.comment_style.clear();
-  textio::read_records(options, r.strategy->mode(), textio::Field(line), 1, 1, fields);
+  splitting::read_records(options, r.strategy->mode(), r.syntax, line, 1, fields);
   std::vector<std::u16string> texts;
   for (textio::Field const& field : fields.fields()) {
-    texts.push_back(name_of_field(field.view(), r.quote));
+    texts.push_back(name_of_field(field.view(), r));
   }
   return texts;
 }
@@ -100,10 +107,15 @@ class RoleReader {
     found_.data_starts_at = records[rows_.first_data].line;
     std::size_t const next = rows_.last_data + 1;
     found_.data_ends_at = next < records.size() ? records[next].line : lines_.count();
-    while (found_.data_ends_at > found_.data_starts_at &&
-           trimmed(lines_[found_.data_ends_at - 1]).empty()) {
+    while (found_.data_ends_at > found_.data_starts_at && is_no_data(found_.data_ends_at - 1)) {
       --found_.data_ends_at;
     }
+  }
+
+  /// Blank lines and, in a table that has them, rulers.
+  [[nodiscard]] bool is_no_data(std::size_t const line) const {
+    return trimmed(lines_[line]).empty() ||
+           (reading_.syntax.has_rulers && splitting::is_ruler(lines_[line]));
   }
 
   /// The names stand in a record of the table, or in the last line above it that is no ruler.
@@ -114,8 +126,11 @@ class RoleReader {
     if (rows_.names) {
       first_name_line_ = reading_.records[*rows_.names].line;
       end_of_names_ = reading_.records[*rows_.names + 1].line;
+      while (end_of_names_ > first_name_line_ + 1 && is_no_data(end_of_names_ - 1)) {
+        --end_of_names_;
+      }
       for (textio::Field const& field : reading_.strategy->field_array()->record(*rows_.names)) {
-        found_.names.push_back(name_of_field(field.view(), reading_.quote));
+        found_.names.push_back(name_of_field(field.view(), reading_));
       }
     } else {
       find_names_above();
@@ -170,6 +185,9 @@ class RoleReader {
     view const text = lines_[line];
     if (trimmed(text).empty()) {
       return LineRole::Blank;
+    }
+    if (splitting::is_ruler(text)) {
+      return LineRole::Ruler;
     }
     return is_comment(text, reading_.strategy->options()) ? LineRole::Comment : LineRole::Footer;
   }

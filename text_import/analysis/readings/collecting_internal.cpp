@@ -3,12 +3,15 @@
 
 #include <algorithm>
 #include <memory>
+#include <set>
 #include <string>
 #include <utility>
 
 #include "text_format_detection/detection/evaluate_strategy.hpp"
 #include "text_format_detection/detection/strategy_selector.hpp"
 #include "text_format_detection/strategies/layout_strategies.hpp"
+#include "text_import/analysis/readings/reading_options.hpp"
+#include "text_import/analysis/readings/refinements_internal.hpp"
 #include "text_import/analysis/readings/unguessed_delimiters_internal.hpp"
 #include "text_import/analysis/readings/usual_delimiters_internal.hpp"
 
@@ -36,7 +39,7 @@ class ReadingCollector {
     auto decision =
         selector.pick_strategy(textio::Field(lines_.text()), task_.request.records, report);
     for (auto const& sampled : report.sampled) {
-      add(sampled.strategy);
+      is_plain(task_.syntax) ? add(sampled.strategy, {}) : read_again(assumed, *sampled.strategy);
     }
     if (!task_.request.engine_decides) {
       if (hypothesis_ == 0) {
@@ -52,6 +55,32 @@ class ReadingCollector {
     }
   }
 
+  /// Reads by a guess at what lines have beside: at its delimiters, or at those at which the same
+  /// hypothesis without the guess splits enough of the text.
+  void read_by_syntax(AssumedOptions const& assumed) {
+    if (!assumed.parsing.delimiters.empty()) {
+      evaluate<DelimitedStrategy>(assumed, assumed.parsing.delimiters);
+      return;
+    }
+    constexpr double least_coverage = 0.3;
+    bool const takes_rest = assumed.syntax.rest_of_line > 0;
+    std::set<std::u16string> delimiters;
+    for (Reading const& r : found_.readings) {
+      bool const is_enough = is_common(r.delimiter) || r.coverage >= least_coverage;
+      if (r.hypothesis == assumed.refined && r.layout == Layout::Delimited && is_enough) {
+        delimiters.insert(r.delimiter);
+      }
+    }
+    for (std::u16string const& delimiter : delimiters) {
+      if (!takes_rest) {
+        evaluate<DelimitedStrategy>(assumed, delimiter_list{delimiter});
+      }
+    }
+    if (takes_rest || assumed.syntax.has_end_comments) {
+      evaluate<SpaceAlignedStrategy>(assumed);
+    }
+  }
+
   /// Reads by what is given of layout, delimiter and widths.
   void read_as_given(AssumedOptions const& assumed) {
     if (!task_.request.delimiters.empty()) {
@@ -61,7 +90,7 @@ class ReadingCollector {
     } else if (task_.layout == Layout::SpaceAligned) {
       evaluate<SpaceAlignedStrategy>(assumed);
     } else if (task_.layout == Layout::Delimited) {
-      ask_engine(assumed);
+      is_plain(assumed.hypothesis.syntax) ? ask_engine(assumed) : read_by_syntax(assumed);
       std::erase_if(found_.readings,
                     [](Reading const& r) { return r.layout != Layout::Delimited; });
       if (found_.readings.empty()) {
@@ -120,8 +149,23 @@ class ReadingCollector {
   void evaluate(AssumedOptions const& assumed, Argument&&... argument) {
     auto strategy = std::make_shared<Strategy>(assumed.parsing, task_.types,
                                                std::forward<Argument>(argument)...);
-    textio::evaluate_strategy(strategy, textio::Field(lines_.text()), task_.request.records);
-    add(std::move(strategy));
+    sample(strategy, assumed.syntax, lines_, task_.request.records);
+    add(std::move(strategy), assumed.syntax);
+  }
+
+  /// What the engine sampled, with more in its lines than the engine knows.
+  void read_again(AssumedOptions const& assumed, textio::GenericStrategy const& sampled) {
+    switch (layout_of(sampled.mode())) {
+      case Layout::Delimited:
+        evaluate<DelimitedStrategy>(assumed, sampled.options().delimiters);
+        break;
+      case Layout::SpaceAligned:
+        evaluate<SpaceAlignedStrategy>(assumed);
+        break;
+      case Layout::FixedWidth:
+      case Layout::Lines:
+        break;
+    }
   }
 
   /// A blank that is no delimiter separates no columns either.
@@ -131,8 +175,9 @@ class ReadingCollector {
                          (r.layout == Layout::SpaceAligned && task_.excludes(u" ")));
   }
 
-  void add(std::shared_ptr<textio::GenericStrategy> strategy) {
+  void add(std::shared_ptr<textio::GenericStrategy> strategy, LineSyntax const& syntax) {
     Reading r = measure_records(std::move(strategy), lines_, task_);
+    set_syntax(r, syntax, task_);
     if (task_.splits_are_given()) {
       take_single_column(r);
     }
@@ -164,9 +209,16 @@ CollectedReadings collect_readings(LineIndex const& lines,
   }
   ReadingCollector collector(lines, task, found);
   for (AssumedOptions const& assumed : hypotheses) {
-    task.layout ? collector.read_as_given(assumed) : collector.ask_engine(assumed);
+    if (task.layout) {
+      collector.read_as_given(assumed);
+    } else if (is_plain(assumed.hypothesis.syntax)) {
+      collector.ask_engine(assumed);
+    } else {
+      collector.read_by_syntax(assumed);
+    }
     collector.next_hypothesis();
   }
+  settle_refinements(found.readings, hypotheses);
   bool const is_fixed = task.layout == Layout::FixedWidth && task.request.widths.empty();
   bool const is_open = !task.layout && !task.request.engine_decides;
   if (is_fixed || (is_open && !collector.is_explained())) {

@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "text_format_detection/model/unit_search_internal.hpp"
+#include "text_import/analysis/readings/syntax_guesses_internal.hpp"
 #include "text_import/analysis/values/text_internal.hpp"
 
 namespace textimport::analysis {
@@ -16,6 +17,8 @@ namespace {
 using view = std::u16string_view;
 
 constexpr std::array<view, 8> line_markers{u"#", u"%", u"//", u";", u"!", u"*", u"--", u"@"};
+
+constexpr std::size_t most_hypotheses = 8;
 
 // Enough lines to see whether something recurs.
 constexpr std::size_t lines_looked_at = 400;
@@ -48,14 +51,17 @@ MarkedLines count_marked(LineIndex const& lines, view const marker) {
   return marked;
 }
 
-/// The marker that starts most lines. Behind the top of the text, comments are the exception.
+/// The marker that starts most lines. Behind the top of the text comments are the exception, unless
+/// the marker hardly stands for anything else.
 std::optional<view> find_comment_marker(LineIndex const& lines) {
   std::optional<view> best;
   std::size_t most = 0;
   for (view const marker : line_markers) {
     MarkedLines const marked = count_marked(lines, marker);
     std::size_t const others = num_looked_at(lines) - marked.count;
-    if (marked.count > most && others >= 2 && marked.count - marked.at_edges <= (others + 1) / 2) {
+    bool const is_exception = marked.count - marked.at_edges <= (others + 1) / 2;
+    bool const is_plain_comment = marker == u"#" || marker == u"//" || marker == u"%";
+    if (marked.count > most && others >= 2 && (is_exception || is_plain_comment)) {
       best = marker;
       most = marked.count;
     }
@@ -80,10 +86,10 @@ bool has_odd_quotes(LineIndex const& lines, char16_t const quote) {
   return false;
 }
 
-/// An apostrophe that opens a field: at a line's start or behind a delimiter, and closed in the
-/// same manner later in the line.
+/// A quote that opens a field: at a line's start or behind a delimiter, and closed in the same
+/// manner later in the line.
 bool opens_and_closes(view const line, char16_t const quote) {
-  constexpr view around = u",;\t| ";
+  constexpr view around = u",;\t| \x01\x14\x1F";
   for (std::size_t pos = line.find(quote); pos != view::npos; pos = line.find(quote, pos + 1)) {
     bool const opens = pos == 0 || around.find(line[pos - 1]) != view::npos;
     std::size_t const close = line.find(quote, pos + 1);
@@ -94,12 +100,23 @@ bool opens_and_closes(view const line, char16_t const quote) {
   return false;
 }
 
-bool has_apostrophe_quotes(LineIndex const& lines) {
+bool has_quoted_fields(LineIndex const& lines, char16_t const quote) {
   std::size_t found = 0;
   for (std::size_t i = 0; i < num_looked_at(lines); ++i) {
-    found += opens_and_closes(lines[i], u'\'') ? 1U : 0U;
+    found += opens_and_closes(lines[i], quote) ? 1U : 0U;
   }
   return found * 4 >= num_looked_at(lines) && found > 0;
+}
+
+/// The first of the other quotes in which fields of many lines stand; 0 for none. The thorn is one
+/// where delimiters are control characters.
+char16_t find_other_quote(LineIndex const& lines, char16_t const usual) {
+  for (char16_t const quote : view(u"'`\u00FE")) {
+    if (quote != usual && holds(lines, quote) && has_quoted_fields(lines, quote)) {
+      return quote;
+    }
+  }
+  return 0;
 }
 
 /// The marker of comment lines or the two of block comments; empty for neither.
@@ -127,24 +144,60 @@ void add_comments(std::vector<AssumedOptions>& assumed, std::vector<std::u16stri
   }
 }
 
+AssumedOptions refined(AssumedOptions const& base, std::size_t const position,
+                       SyntaxGuess const& guess) {
+  AssumedOptions with = base;
+  with.refined = position;
+  with.syntax = guess.syntax;
+  with.hypothesis.syntax = guess.syntax;
+  if (!guess.delimiters.empty()) {
+    with.parsing.delimiters = guess.delimiters;
+  }
+  if (!guess.comment_markers.empty()) {
+    with.hypothesis.comment_markers = guess.comment_markers;
+    with.parsing.comment_style = guess.comment_markers;
+  }
+  return with;
+}
+
+/// Each guess at what lines have beside, with what is given and with the comments that were found:
+/// these begin in the middle of what is assumed so far. Comments at the ends of lines refine those
+/// at their starts where both have the same marker.
+void add_syntax(std::vector<AssumedOptions>& assumed, std::vector<SyntaxGuess> const& guesses) {
+  std::size_t const commented = assumed.size() / 2;
+  auto const comments = assumed.back().hypothesis.comment_markers;
+  for (bool const with_comments : {false, true}) {
+    for (SyntaxGuess const& guess : guesses) {
+      bool const is_at_ends = guess.syntax.has_end_comments;
+      bool const refines_comments = is_at_ends ? guess.comment_markers == comments : with_comments;
+      bool const is_wanted = with_comments ? !comments.empty() && !is_at_ends : true;
+      if (is_wanted && assumed.size() < most_hypotheses) {
+        std::size_t const base = refines_comments ? commented : 0;
+        assumed.push_back(refined(assumed[base], base, guess));
+      }
+    }
+  }
+}
+
 }  // namespace
 
 std::vector<AssumedOptions> propose_hypotheses(LineIndex const& lines, Task const& task) {
-  std::vector<AssumedOptions> assumed{{{}, task.parsing}};
+  std::vector<AssumedOptions> assumed{{{}, task.parsing, task.syntax}};
   char16_t const quote = quote_of(task.parsing);
   if (!task.request.quote) {
     if (quote != 0 && holds(lines, quote) && has_odd_quotes(lines, quote)) {
-      assumed.push_back({{.quotes_are_ordinary = true}, task.parsing});
+      assumed.push_back({{.quotes_are_ordinary = true}, task.parsing, task.syntax});
       assumed.back().parsing.quote_characters.clear();
     }
-    if (quote != u'\'' && holds(lines, u'\'') && has_apostrophe_quotes(lines)) {
-      assumed.push_back({{.apostrophes_quote = true}, task.parsing});
-      assumed.back().parsing.quote_characters = u"'";
+    if (char16_t const other = find_other_quote(lines, quote); other != 0) {
+      assumed.push_back({{.quote = other}, task.parsing, task.syntax});
+      assumed.back().parsing.quote_characters = std::u16string(1, other);
     }
   }
   if (!task.request.comment_markers) {
     add_comments(assumed, find_comment_style(lines));
   }
+  add_syntax(assumed, guess_line_syntax(lines, task));
   return assumed;
 }
 

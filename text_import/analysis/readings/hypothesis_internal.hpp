@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The questions that an analysis asks the engine: the same sample under other quotes and comment
-// markers, each only where the sample gives reason for it.
+// The questions that an analysis asks of a sample: under other quotes and comment markers, and with
+// more in its lines than the engine's readers know, each only where the sample gives reason for it.
 #pragma once
 
 #include <string>
@@ -19,14 +19,12 @@ namespace textimport::analysis {
 struct AssumedOptions {
   Hypothesis hypothesis;
   textio::parser::options parsing;
+  LineSyntax syntax;  ///< what is given, and what the hypothesis adds
+  /// The position of the hypothesis that has the same quotes and comments and adds no syntax.
+  std::size_t refined = 0;
 };
 
-/// The quote of parsing options, 0 for none.
-[[nodiscard]] inline char16_t quote_of(textio::parser::options const& parsing) noexcept {
-  return parsing.quote_characters.empty() ? u'\0' : parsing.quote_characters.front();
-}
-
-/// The hypotheses for a sample, the caller's own options first. At most six.
+/// The hypotheses for a sample, the caller's own options first. At most eight.
 [[nodiscard]] std::vector<AssumedOptions> propose_hypotheses(LineIndex const& lines,
                                                              Task const& task);
 

@@ -5,9 +5,11 @@
 #include <map>
 #include <span>
 
+#include "text_format_detection/detection/evaluate_strategy.hpp"
 #include "text_import/analysis/readings/hypothesis_internal.hpp"
 #include "text_import/analysis/readings/reading_options.hpp"
 #include "text_import/analysis/values/text_internal.hpp"
+#include "text_import/splitting/record_splitter_internal.hpp"
 
 namespace textimport::analysis {
 
@@ -182,6 +184,27 @@ bool read_alike(Reading const& a, Reading const& b) {
     ++compared;
   }
   return compared > 0;
+}
+
+void sample(std::shared_ptr<textio::GenericStrategy> const& strategy, LineSyntax const& syntax,
+            LineIndex const& lines, std::size_t const num_records) {
+  if (!is_plain(syntax)) {
+    std::size_t const above = strategy->detects_header_lines() ? 0 : strategy->header_lines();
+    auto fields = std::make_unique<FieldArray>();
+    splitting::read_records(strategy->options(), strategy->mode(), syntax, lines.text(),
+                            num_records + std::min(above, all_records - num_records), *fields);
+    strategy->field_array(std::move(fields));
+  }
+  textio::evaluate_strategy(strategy, Field(lines.text()), num_records);
+}
+
+/// A delimiter inside a value stands behind an escape there, and is none.
+void set_syntax(Reading& r, LineSyntax const& syntax, Task const& task) {
+  r.syntax = syntax;
+  if (syntax.escape != 0) {
+    r.values = ValueGrammar(r.quote, task.request.values,
+                            excluded_characters(task.request) + r.delimiter);
+  }
 }
 
 std::optional<Reading> measure_last_block(Reading const& r) {

@@ -41,6 +41,7 @@ struct Reading {
   Layout layout = Layout::Lines;
   std::u16string delimiter;
   char16_t quote = 0;
+  LineSyntax syntax;  ///< what its lines have beside
   ValueGrammar values{u'\0', {}};  ///< how its values are judged
 
   std::vector<RecordPlace> records;
@@ -79,6 +80,13 @@ struct Reading {
 [[nodiscard]] Reading measure_records(std::shared_ptr<textio::GenericStrategy> strategy,
                                       LineIndex const& lines, Task const& task,
                                       FixedColumns const* columns = nullptr);
+
+/// Hands a strategy its fields and scores it: as the engine samples it where the lines are plain.
+void sample(std::shared_ptr<textio::GenericStrategy> const& strategy, LineSyntax const& syntax,
+            LineIndex const& lines, std::size_t num_records);
+
+/// The reading is of lines that have this beside.
+void set_syntax(Reading& r, LineSyntax const& syntax, Task const& task);
 
 /// The same strategy with the table at the end of the text, where that is another one than the
 /// largest: titles and notes may look like a larger table.

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+#include "text_import/splitting/record_splitter_internal.hpp"
+
 namespace textimport::analysis {
 
 namespace {
@@ -63,6 +65,7 @@ Request merged(Request request) {
   take_rules(request.rules, given.layout);
   take(request.whitespace, given.layout.whitespace);
   take(request.quote, given.quoting.quote);
+  take(request.escape, splitting::line_syntax_of(given).escape);
   take(request.comment_markers, given.comments.markers);
   take_marks(request.values, given.marks);
   if (request.line_endings.empty()) {
@@ -72,6 +75,17 @@ Request merged(Request request) {
     request.num_columns = given.columns.size();
   }
   return request;
+}
+
+/// The syntax of the lines of the Format, as far as the request leaves it, and the escape.
+LineSyntax syntax_of(Request const& request) {
+  LineSyntax syntax;
+  if (request.format && request.layout == request.format->layout.layout) {
+    syntax = splitting::line_syntax_of(*request.format);
+    syntax.has_end_comments = syntax.has_end_comments && !request.comment_markers->empty();
+  }
+  syntax.escape = request.escape.value_or(u'\0');
+  return syntax;
 }
 
 textio::parser::options parsing_of(Request const& request) {
@@ -177,6 +191,7 @@ Task make_task(TextSample const& sample, Request const& request) {
   task.parsing = parsing_of(task.request);
   task.types = types_of(task.request);
   task.layout = implied_layout(task.request);
+  task.syntax = syntax_of(task.request);
   task.source = sample.source;
   task.source.line_endings = task.parsing.line_endings;
   if (!task.request.line_endings.empty()) {

@@ -14,8 +14,8 @@ namespace textimport::analysis {
 /// What a text holds of them, whatever the engine guesses.
 struct TextDelimiters {
   std::u16string common;  ///< those of common_delimiters that stand in the text
-  /// Doubled delimiters such as "||", and signs outside ASCII that every line holds equally often.
-  /// Few texts have any.
+  /// Sequences of two or three signs, and signs outside ASCII, that nearly every line holds equally
+  /// often. Few texts have any.
   std::vector<std::u16string> unusual;
 };
 
