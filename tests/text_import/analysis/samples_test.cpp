@@ -65,7 +65,7 @@ void describe_column(std::ostream& out, Column const& column, ColumnEvidence con
 
 std::string describe(Hypothesis const& assumed) {
   std::string words = assumed.quotes_are_ordinary ? "quotes are ordinary characters"
-                      : assumed.quote != 0 ? "quoted by " + show_mark(assumed.quote)
+                      : assumed.quote != 0        ? "quoted by " + show_mark(assumed.quote)
                                                   : "as given";
   if (!assumed.comment_markers.empty()) {
     words += ", comments start with " + support::show(assumed.comment_markers.front());
