@@ -127,7 +127,7 @@ struct Evidence {
   std::vector<MeasureText> measures;   ///< what the scores are made of
   /// In the order in which they were made; the last is each line as a value, where that may be.
   std::vector<Candidate> candidates;
-  std::optional<std::size_t> winner;   ///< empty when each line is a value
+  std::optional<std::size_t> winner;  ///< empty when each line is a value
   std::optional<RunnerUp> runner_up;
 
   /// The lines above and below the data, ascending.

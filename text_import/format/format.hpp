@@ -93,7 +93,7 @@ enum class QuoteEscape : std::uint8_t {
 struct QuotingFormat {
   char16_t quote = u'"';  ///< 0: no field is quoted
   QuoteEscape escape_kind = QuoteEscape::Doubled;
-  char16_t escape = 0;  ///< of QuoteEscape::Character
+  char16_t escape = 0;         ///< of QuoteEscape::Character
   bool behind_blanks = false;  ///< blanks may stand between a delimiter and the quote
   Origin origin = Origin::Default;
 

@@ -13,8 +13,8 @@ namespace textimport {
 struct LineSyntax {
   /// Each line begins and ends with a delimiter, which makes no column; blanks may stand outside.
   bool has_outer_bars = false;
-  bool has_rulers = false;    ///< lines that are drawn between records are no records
-  char16_t escape = 0;        ///< behind it nothing has its special meaning; 0: there is none
+  bool has_rulers = false;        ///< lines that are drawn between records are no records
+  char16_t escape = 0;            ///< behind it nothing has its special meaning; 0: there is none
   bool has_end_comments = false;  ///< a comment marker behind a blank hides the rest of the line
   bool quotes_behind_blanks = false;  ///< blanks may stand between a delimiter and its quote
   std::size_t rest_of_line = 0;  ///< that many fields, and the last is the rest; 0: as many as come

@@ -176,8 +176,7 @@ void write_candidate(JsonWriter& writer, Candidate const& candidate) {
   write_member(writer, "num_columns", candidate.num_columns);
   write_member(writer, "coverage", candidate.coverage);
   write_member(writer, "soundness", candidate.soundness);
-  write_member(writer, "score",
-               candidate.is_table ? std::optional(candidate.score) : std::nullopt);
+  write_member(writer, "score", candidate.is_table ? std::optional(candidate.score) : std::nullopt);
   write_member(writer, "share", candidate.share);
   writer.key("pieces");
   write_list(writer, candidate.pieces, write_piece);

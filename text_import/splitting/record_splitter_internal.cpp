@@ -5,6 +5,8 @@
 #include "text_import/splitting/record_splitter_internal.hpp"
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -57,6 +59,11 @@ class RecordSplitter {
     if (syntax.has_end_comments && !options.comment_style.empty()) {
       specials_ += options.comment_style.front().substr(0, 1);
     }
+    for (char16_t const c : specials_) {
+      if (c < is_special_.size()) {
+        is_special_.at(c) = true;
+      }
+    }
   }
 
   void run(std::size_t const most) {
@@ -84,6 +91,16 @@ class RecordSplitter {
 
   [[nodiscard]] std::size_t delimiter_at(std::size_t const pos) const noexcept {
     return length_of_match(options_.delimiters, rest(pos));
+  }
+
+  [[nodiscard]] std::size_t find_special(std::size_t pos) const noexcept {
+    auto const is_special = [this](char16_t const c) {
+      return c < is_special_.size() ? is_special_[c] : specials_.find(c) != view::npos;
+    };
+    while (pos < text_.size() && !is_special(text_[pos])) {
+      ++pos;
+    }
+    return pos;
   }
 
   [[nodiscard]] std::size_t find_line_end(std::size_t pos) const noexcept {
@@ -136,8 +153,7 @@ class RecordSplitter {
     skip_leading();
     Stop stop = Stop::Delimiter;
     while (stop == Stop::Delimiter) {
-      bool const is_rest =
-          syntax_.rest_of_line > 0 && bounds_.size() + 1 == syntax_.rest_of_line;
+      bool const is_rest = syntax_.rest_of_line > 0 && bounds_.size() + 1 == syntax_.rest_of_line;
       stop = is_rest ? take_rest() : take_field();
     }
     drop_trailing();
@@ -176,7 +192,7 @@ class RecordSplitter {
     std::size_t const start = pos_;
     std::size_t pos = behind_quotes(start);
     for (;;) {
-      pos = std::min(text_.find_first_of(specials_, pos), text_.size());
+      pos = find_special(pos);
       if (pos == text_.size() || ending_at(pos) > 0) {
         return end_line(start, pos, pos);
       }
@@ -219,7 +235,8 @@ class RecordSplitter {
     return Stop::EndOfLine;
   }
 
-  [[nodiscard]] std::size_t without_blanks(std::size_t const start, std::size_t end) const noexcept {
+  [[nodiscard]] std::size_t without_blanks(std::size_t const start,
+                                           std::size_t end) const noexcept {
     while (end > start && is_blank(text_[end - 1])) {
       --end;
     }
@@ -241,8 +258,7 @@ class RecordSplitter {
     if (quote_ == 0 || open >= text_.size() || text_[open] != quote_) {
       return start;
     }
-    bool const is_bound =
-        syntax_.has_outer_bars || syntax_.has_rulers || syntax_.rest_of_line > 0;
+    bool const is_bound = syntax_.has_outer_bars || syntax_.has_rulers || syntax_.rest_of_line > 0;
     std::size_t const end = is_bound ? line_end_ : text_.size();
     std::size_t const close = find_close(open + 1, end);
     if (close == end) {
@@ -273,8 +289,8 @@ class RecordSplitter {
     auto const& last = bounds_.back();
     bool const is_behind_bar =
         syntax_.has_outer_bars && has_bar_ && without_blanks(last.start, last.end) == last.start;
-    bool const is_ignored =
-        options_.trailing_delimiters_rule == TrailingDelimitersRule::Ignore && last.start == last.end;
+    bool const is_ignored = options_.trailing_delimiters_rule == TrailingDelimitersRule::Ignore &&
+                            last.start == last.end;
     if (is_behind_bar || is_ignored) {
       bounds_.pop_back();
     }
@@ -285,8 +301,9 @@ class RecordSplitter {
   view text_;
   textio::FieldArray& fields_;
   char16_t quote_;
-  std::u16string specials_;  // what may mean something begins with one of these
-  std::u16string endings_;   // those of line endings
+  std::u16string specials_;             // what may mean something begins with one of these
+  std::array<bool, 128> is_special_{};  // the same for ASCII
+  std::u16string endings_;              // those of line endings
   std::size_t pos_ = 0;
   std::size_t line_start_ = 0;
   std::size_t line_end_ = 0;

@@ -21,8 +21,8 @@ std::u16string plain_value(view const value, Format const& format, char16_t cons
   char16_t const quote = format.quoting.quote;
   bool const is_quoted = analysis::stands_in(value, quote);
   view const inside = is_quoted ? value.substr(1, value.size() - 2) : value;
-  auto plain = is_quoted ? analysis::with_single_quotes(inside, quote, escape)
-                         : std::u16string(inside);
+  auto plain =
+      is_quoted ? analysis::with_single_quotes(inside, quote, escape) : std::u16string(inside);
   return escape == 0 ? plain
                      : analysis::without_escapes(plain, escape, quote, format.layout.delimiters);
 }

@@ -53,6 +53,8 @@ Request request_of(json const& said) {
       request.header_lines = value;
     } else if (member == "quote") {
       request.quote = one(value);
+    } else if (member == "escape") {
+      request.escape = one(value);
     } else if (member == "comments") {
       request.comment_markers = all_wide(value);
     } else if (member == "line_endings") {

@@ -15,8 +15,11 @@
 
 #include "tests/support/text.hpp"
 #include "text_import/analysis/analysis.hpp"
+#include "text_import/format/format_json.hpp"
 #include "text_import/format/words.hpp"
 #include "text_import/source/text_source.hpp"
+#include "text_import/splitting/record_splitter_internal.hpp"
+#include "text_import/table/rows.hpp"
 
 namespace {
 
@@ -29,6 +32,7 @@ using textimport::DateOrder;
 using textimport::Evidence;
 using textimport::Hypothesis;
 using textimport::TextSource;
+using textimport::splitting::line_syntax_of;
 
 fs::path const folder = TFD_TESTS_FOLDER "/text_import/analysis/samples";
 
@@ -63,14 +67,25 @@ void describe_column(std::ostream& out, Column const& column, ColumnEvidence con
   out << "\n";
 }
 
+std::string show_syntax(textimport::LineSyntax const& syntax) {
+  std::string words;
+  words += syntax.has_outer_bars ? ", outer bars" : "";
+  words += syntax.has_rulers ? ", rulers" : "";
+  words += syntax.escape != 0 ? ", escapes " + show_mark(syntax.escape) : "";
+  words += syntax.has_end_comments ? ", comments at line ends" : "";
+  words += syntax.quotes_behind_blanks ? ", quotes behind blanks" : "";
+  return syntax.rest_of_line > 0 ? words + ", rest of line " + std::to_string(syntax.rest_of_line)
+                                 : words;
+}
+
 std::string describe(Hypothesis const& assumed) {
   std::string words = assumed.quotes_are_ordinary ? "quotes are ordinary characters"
-                      : assumed.quote != 0 ? "quoted by " + show_mark(assumed.quote)
+                      : assumed.quote != 0        ? "quoted by " + show_mark(assumed.quote)
                                                   : "as given";
   if (!assumed.comment_markers.empty()) {
     words += ", comments start with " + support::show(assumed.comment_markers.front());
   }
-  return words;
+  return words + show_syntax(assumed.syntax);
 }
 
 void describe_region(std::ostream& out, textimport::Region const& region) {
@@ -107,12 +122,25 @@ std::string describe(Analysis const& found) {
   return out.str();
 }
 
+/// What was found, saved and given, reads the same text in the same manner.
+void expect_read_again(TextSource const& text, textimport::Format const& found) {
+  textimport::Request request;
+  request.format = textimport::format_from_json(textimport::to_json(found)).format;
+  auto const read = textimport::analyse(text.text_sample(), request).format;
+  EXPECT_EQ(line_syntax_of(found), line_syntax_of(read));
+  EXPECT_EQ(found.columns.size(), read.columns.size());
+  EXPECT_EQ(found.region.first_line, read.region.first_line);
+  auto const data = text.text_sample().text;
+  EXPECT_EQ(read_rows(found, data, 1000), read_rows(read, data, 1000));
+}
+
 std::string analyse_file(fs::path const& path) {
   auto const text = TextSource::open(path.string());
   auto const found = textimport::analyse(text.text_sample(), {});
   EXPECT_TRUE(found.certainty.layout >= 0 && found.certainty.layout <= 1);
   EXPECT_EQ(describe(textimport::analyse(text.text_sample(), {})), describe(found))
       << "asked twice";
+  expect_read_again(text, found.format);
   return describe(found);
 }
 

@@ -38,11 +38,9 @@ std::u16string name_of_field(view const field, Reading const& r) {
   view const name = unquoted(field, r.quote);
   bool const was_quoted = r.quote != 0 && trimmed(field).starts_with(r.quote);
   char16_t const escape = r.syntax.escape;
-  auto plain =
-      was_quoted ? with_single_quotes(name, r.quote, escape) : std::u16string(name);
-  return escape == 0
-             ? plain
-             : without_escapes(plain, escape, r.quote, r.strategy->options().delimiters);
+  auto plain = was_quoted ? with_single_quotes(name, r.quote, escape) : std::u16string(name);
+  return escape == 0 ? plain
+                     : without_escapes(plain, escape, r.quote, r.strategy->options().delimiters);
 }
 
 /// The line without a comment marker in front of it, of whatever kind.

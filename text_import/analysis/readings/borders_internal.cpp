@@ -56,8 +56,8 @@ class BorderSearch {
     if (line.empty()) {
       return;
     }
-    bool const may_be_ruler = splitting::is_stroke(line.back()) || splitting::is_joint(line.back()) ||
-                              line.back() == u':';
+    bool const may_be_ruler = splitting::is_stroke(line.back()) ||
+                              splitting::is_joint(line.back()) || line.back() == u':';
     if (may_be_ruler && splitting::is_ruler(line)) {
       take_ruler(i, line);
       return;
@@ -88,7 +88,8 @@ class BorderSearch {
     auto const is_crossed = [&](std::size_t const other) {
       return count_bars(lines_[other]) == joints && !splitting::is_ruler(lines_[other]);
     };
-    fitting_rulers_ += (i > 0 && is_crossed(i - 1)) || (i + 1 < end_ && is_crossed(i + 1)) ? 1U : 0U;
+    fitting_rulers_ +=
+        (i > 0 && is_crossed(i - 1)) || (i + 1 < end_ && is_crossed(i + 1)) ? 1U : 0U;
   }
 
   LineIndex const& lines_;
@@ -104,9 +105,6 @@ class BorderSearch {
 }  // namespace
 
 std::optional<Borders> find_borders(LineIndex const& lines, std::size_t const end) {
-  if (lines.held_of(bars).empty()) {
-    return std::nullopt;
-  }
   return BorderSearch(lines, end).run();
 }
 

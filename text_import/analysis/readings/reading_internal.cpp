@@ -202,8 +202,8 @@ void sample(std::shared_ptr<textio::GenericStrategy> const& strategy, LineSyntax
 void set_syntax(Reading& r, LineSyntax const& syntax, Task const& task) {
   r.syntax = syntax;
   if (syntax.escape != 0) {
-    r.values = ValueGrammar(r.quote, task.request.values,
-                            excluded_characters(task.request) + r.delimiter);
+    r.values =
+        ValueGrammar(r.quote, task.request.values, excluded_characters(task.request) + r.delimiter);
   }
 }
 

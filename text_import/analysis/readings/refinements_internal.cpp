@@ -22,8 +22,7 @@ bool is_torn(view const field, char16_t const quote, char16_t const escape) {
     return false;
   }
   for (std::size_t pos = 1; pos < text.size(); ++pos) {
-    bool const is_doubled =
-        text[pos] == quote && pos + 1 < text.size() && text[pos + 1] == quote;
+    bool const is_doubled = text[pos] == quote && pos + 1 < text.size() && text[pos + 1] == quote;
     if (is_doubled || (escape != 0 && text[pos] == escape)) {
       ++pos;
     } else if (text[pos] == quote) {
@@ -51,8 +50,7 @@ std::size_t count_unexplained(Reading const& r) {
 /// How much a guess is believed where it explains as much as others: what the text shows, such as
 /// borders, comes before the plain reading, and that before anything else.
 int rank_of(LineSyntax const& guessed) {
-  bool const is_shown =
-      guessed.has_outer_bars || guessed.has_rulers || guessed.has_end_comments;
+  bool const is_shown = guessed.has_outer_bars || guessed.has_rulers || guessed.has_end_comments;
   return is_shown ? 0 : is_plain(guessed) ? 1 : 2;
 }
 

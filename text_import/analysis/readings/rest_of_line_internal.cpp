@@ -62,8 +62,8 @@ bool has_typed_columns(std::vector<WordLine> const& lines, std::size_t const fir
     auto const is_number = [&](WordLine const& line) {
       return line.starts.size() > column && is_numeric(word(line, column));
     };
-    auto const numbers = std::count_if(lines.begin() + static_cast<std::ptrdiff_t>(first),
-                                       lines.end(), is_number);
+    auto const numbers =
+        std::count_if(lines.begin() + static_cast<std::ptrdiff_t>(first), lines.end(), is_number);
     typed += static_cast<std::size_t>(numbers) * 10 >= (lines.size() - first) * 9 ? 1U : 0U;
   }
   return typed >= 2;
@@ -128,9 +128,16 @@ std::size_t by_most_lines(std::vector<WordLine> const& lines) {
 }  // namespace
 
 std::size_t fields_before_rest(LineIndex const& lines, std::size_t const end) {
+  constexpr std::size_t most_short = 5;  // lines that are blank, titles or sums
   std::vector<WordLine> filled;
+  std::size_t too_short = 0;
   for (std::size_t i = 0; i < end; ++i) {
-    if (auto words = words_of(lines[i]); !words.starts.empty()) {
+    auto words = words_of(lines[i]);
+    too_short += words.starts.size() < least_fields ? 1U : 0U;
+    if (too_short > most_short) {
+      return 0;
+    }
+    if (!words.starts.empty()) {
       filled.push_back(std::move(words));
     }
   }

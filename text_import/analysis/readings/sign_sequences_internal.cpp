@@ -25,9 +25,9 @@ constexpr std::size_t most_sequences = 4;
 
 using Range = std::pair<char16_t, char16_t>;
 
-// Outside ASCII: signs of Latin-1 but those of money and degrees, of Armenian, Arabic and Indian scripts, general punctuation to
-// arrows, boxes and shapes, signs of East Asian scripts with their wide and vertical forms, and the
-// private characters that some programs take for it.
+// Outside ASCII: signs of Latin-1 but those of money and degrees, of Armenian, Arabic and Indian
+// scripts, general punctuation to arrows, boxes and shapes, signs of East Asian scripts with their
+// wide and vertical forms, and the private characters that some programs take for it.
 constexpr std::array<Range, 18> foreign_signs{{{0xA6, 0xA9},
                                                {0xAB, 0xAF},
                                                {0xB4, 0xB4},

@@ -11,6 +11,7 @@
 #include "text_import/analysis/readings/rest_of_line_internal.hpp"
 #include "text_import/analysis/readings/usual_delimiters_internal.hpp"
 #include "text_import/analysis/values/text_internal.hpp"
+#include "text_import/splitting/rulers_internal.hpp"
 
 namespace textimport::analysis {
 
@@ -79,11 +80,11 @@ MarkedEnds count_marked_ends(LineIndex const& lines, std::size_t const end, view
 }
 
 /// The marker of comments behind data: most lines have one, or some do and others are comments.
-std::optional<view> find_end_comments(LineIndex const& lines, std::size_t const end) {
+std::optional<view> find_end_comments(LineIndex const& lines, std::size_t const end,
+                                      view const held) {
   constexpr std::array<view, 4> markers{u"#", u"//", u"%", u"!"};
-  view const head = lines.between(0, end);
   for (view const marker : markers) {
-    if (head.find(marker) == view::npos) {
+    if (held.find(marker.front()) == view::npos) {
       continue;
     }
     MarkedEnds const counts = count_marked_ends(lines, end, marker);
@@ -104,6 +105,7 @@ class Guesser {
         task_(task),
         end_(std::min(lines.count(), lines_looked_at)),
         head_(lines.between(0, end_)),
+        held_(lines.held_of(u"\\#/%!" + std::u16string(splitting::bars))),
         quote_(quote_of(task.parsing)) {}
 
   std::vector<SyntaxGuess> run() {
@@ -129,9 +131,16 @@ class Guesser {
     return guess;
   }
 
-  [[nodiscard]] bool may_escape() const { return !task_.request.escape.has_value(); }
+  [[nodiscard]] bool holds(char16_t const c) const { return held_.find(c) != view::npos; }
+
+  [[nodiscard]] bool may_escape() const {
+    return !task_.request.escape.has_value() && holds(u'\\');
+  }
 
   void guess_borders() {
+    if (held_.find_first_of(splitting::bars) == view::npos) {
+      return;
+    }
     auto const borders = find_borders(lines_, end_);
     auto const& given = task_.request.delimiters;
     if (!borders || (!given.empty() && given.front() != borders->bars.front())) {
@@ -162,7 +171,7 @@ class Guesser {
     if (task_.request.comment_markers) {
       return;
     }
-    if (auto const marker = find_end_comments(lines_, end_)) {
+    if (auto const marker = find_end_comments(lines_, end_, held_)) {
       SyntaxGuess& guess = add();
       guess.syntax.has_end_comments = true;
       guess.comment_markers.emplace_back(*marker);
@@ -179,6 +188,7 @@ class Guesser {
   Task const& task_;
   std::size_t end_;
   view head_;
+  std::u16string held_;  // of the characters that guesses are about
   char16_t quote_;
   std::vector<SyntaxGuess> guesses_;
 };

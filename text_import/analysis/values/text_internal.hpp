@@ -66,9 +66,9 @@ namespace textimport::analysis {
 
 /// The text without the escapes in front of delimiters, quotes, line ends and escapes themselves.
 /// One in front of anything else stays: it has a meaning of its own, as in "\N".
-[[nodiscard]] inline std::u16string without_escapes(
-    std::u16string_view const text, char16_t const escape, char16_t const quote,
-    std::vector<std::u16string> const& delimiters) {
+[[nodiscard]] inline std::u16string without_escapes(std::u16string_view const text,
+                                                    char16_t const escape, char16_t const quote,
+                                                    std::vector<std::u16string> const& delimiters) {
   auto const is_meant = [&](std::u16string_view const rest) {
     return rest.starts_with(escape) || rest.starts_with(u'\n') || rest.starts_with(u'\r') ||
            (quote != 0 && rest.starts_with(quote)) ||
