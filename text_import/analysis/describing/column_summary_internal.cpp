@@ -44,8 +44,11 @@ bool is_plain_truth(TruthWords const& pair) {
 
 void WordCensus::add(view const word) {
   constexpr std::size_t longest = 16;
+  if (is_full()) {
+    return;
+  }
   auto const known =
-      std::ranges::find(words_, word, &std::pair<std::u16string, std::size_t>::first);
+      std::ranges::find_if(words_, [word](auto const& counted) { return counted.first == word; });
   if (known != words_.end()) {
     ++known->second;
   } else if (words_.size() < most_words && word.size() <= longest) {
@@ -95,9 +98,9 @@ void ColumnSummary::add(view const field, ValueGrammar const& values) {
 
 void ColumnSummary::add_number(ValueLook const& look, view const text) {
   ++num_numbers_;
-  numbers_.add(look, text);
   column_.leading_zeros = column_.leading_zeros || look.leading_zeros;
   std::size_t const digits = textio::platform::leading_digits(text);
+  numbers_.add(look, digits, text.front() == u'0');
   fewest_digits_ = std::min(fewest_digits_, digits);
   most_digits_ = std::max(most_digits_, digits);
   add_dress(look.dress, text);

@@ -46,6 +46,9 @@ class WordCensus {
   [[nodiscard]] bool has_all() const { return has_all_; }
 
  private:
+  /// Nothing more is counted.
+  [[nodiscard]] bool is_full() const { return !has_all_ && words_.size() == most_words; }
+
   std::vector<std::pair<std::u16string, std::size_t>> words_;
   bool has_all_ = true;  ///< there are no others
 };

@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "text_import/analysis/values/number_marks_internal.hpp"
 
-#include <algorithm>
-
-#include "text_format_detection/platform/ascii_internal.hpp"
-
 namespace textimport::analysis {
 
 namespace {
@@ -24,7 +20,8 @@ constexpr std::optional<MarkStyle> style_of(char16_t const mark) noexcept {
 
 }  // namespace
 
-void NumberTally::add(ValueLook const& look, std::u16string_view const text) noexcept {
+void NumberTally::add(ValueLook const& look, std::size_t const digits,
+                      bool const is_zero) noexcept {
   bool const is_integer = look.shape == ValueShape::Integer;
   auto const decimal = style_of(look.marks.decimal);
   auto const thousands = style_of(look.marks.thousands);
@@ -46,10 +43,7 @@ void NumberTally::add(ValueLook const& look, std::u16string_view const text) noe
   }
   ++(is_integer ? plain_integers_ : plain_reals_);
   if (is_integer && other_thousands_ == 0) {
-    auto const digits =
-        static_cast<std::size_t>(std::ranges::count_if(text, textio::platform::is_digit));
-    bool const is_zero = text.find_first_of(u"123456789") == text.npos;
-    short_integers_ += digits <= 3 && !is_zero ? 1U : 0U;
+    short_integers_ += digits > 0 && digits <= 3 && !is_zero ? 1U : 0U;
     long_integers_ += digits > 3 ? 1U : 0U;
   }
 }

@@ -19,6 +19,11 @@ bool is_one_of(char16_t const c, view const set) noexcept {
   return set.find(c) != view::npos;
 }
 
+/// False for most characters that no sign or word for money begins with.
+bool may_start_currency(char16_t const c) noexcept {
+  return c == u'$' || c > 0xA2 || textio::platform::is_letter(c);
+}
+
 /// The letters at the start of a text up to a blank, a sign or a parenthesis, with a point or a
 /// dollar sign that stands between; 0 when they are too many for a currency or digits follow.
 std::size_t length_of_currency_word(view const text) noexcept {
@@ -73,7 +78,9 @@ class NumberScan {
 
   /// A parenthesis or a sign, and a currency, each once and in any order.
   void take_front() noexcept {
-    while (!rest_.empty() && ((!has_sign_ && take_sign()) || take_currency(true))) {
+    while (!rest_.empty() && !is_digit(rest_.front()) &&
+           ((!has_sign_ && take_sign()) ||
+            (may_start_currency(rest_.front()) && take_currency(true)))) {
     }
   }
 
@@ -85,7 +92,8 @@ class NumberScan {
 
   /// One that is written in letters stands apart from the digits in front of it, or ends the text.
   bool take_currency(bool const is_in_front) noexcept {
-    if (number_.dress.currency != 0 || rest_.empty()) {
+    bool const is_too_long = !is_in_front && rest_.size() > longest_currency + 2;
+    if (number_.dress.currency != 0 || is_too_long) {
       return false;
     }
     std::size_t length = 1;
@@ -111,8 +119,8 @@ class NumberScan {
     do {
       bool const has_blank = is_one_of(rest_.front(), blanks);
       drop_blanks();
-      if (rest_.empty() ||
-          !(take_share() || (!has_blank && take_end_of_negative()) || take_currency(false))) {
+      if (rest_.empty() || !(take_share() || (!has_blank && take_end_of_negative()) ||
+                             (may_start_currency(rest_.front()) && take_currency(false)))) {
         return false;
       }
     } while (!rest_.empty());
