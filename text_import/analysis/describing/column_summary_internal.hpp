@@ -73,6 +73,7 @@ class ColumnSummary {
   void add_dress(NumberDress const& dress, std::u16string_view text);
   void settle_style(FileStyle const& file);
   void settle_truth();
+  void keep_lone_signs();
   void settle_type();
   void settle_numbers();
   void move_missing_words(ValueType type);
@@ -90,6 +91,8 @@ class ColumnSummary {
   ColumnEvidence counts_;
   std::array<std::size_t, num_shapes> shapes_{};
   std::size_t quoted_ = 0;
+  std::size_t missing_ = 0;  ///< words for no value, and the longest of them in code units
+  std::size_t longest_missing_ = 0;
   WordCensus words_;  ///< texts and words for true and false
   std::size_t truths_ = 0;
   std::size_t nearest_ = 0;  ///< of a column of texts: values of the type that most of them fit

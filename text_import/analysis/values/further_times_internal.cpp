@@ -122,11 +122,12 @@ bool is_short_date(view const text) {
 
 /// A date that is none of the usual forms.
 bool is_further_date(view const text) {
-  if (text.size() < 8 || !is_digit(text.front())) {
+  std::size_t const digits = leading_digits(text);
+  if (text.size() < 8 || digits == 0 || digits > 4) {
     return false;
   }
-  bool const has_points = text.ends_with(u'.') || text.find(u". ") != view::npos;
-  return is_short_date(text) || is_date_in_characters(text) ||
+  bool const has_points = text[digits] == u'.' && (text[digits + 1] == u' ' || text.back() == u'.');
+  return is_short_date(text) || (digits == 4 && is_date_in_characters(text)) ||
          (has_points && is_of(without_blanks(text), u""));
 }
 
@@ -156,7 +157,9 @@ bool is_stamp_of_server(view const text) {
 
 /// "Fri Jan  5 10:30:00 2024", and what the usual forms begin with a weekday but for a zone's word.
 bool is_stamp_of_weekday(view const text) {
-  if (text.size() < 20 || (text[3] != u' ' && text[3] != u',')) {
+  bool const has_blanks = text.size() >= 20 && (text[3] == u' ' || text[3] == u',') &&
+                          (text[6] == u' ' || text[7] == u' ');
+  if (!has_blanks || text.find(u':') == view::npos) {
     return false;
   }
   view const plain = without_zone_word(text);

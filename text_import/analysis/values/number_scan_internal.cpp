@@ -19,11 +19,6 @@ bool is_one_of(char16_t const c, view const set) noexcept {
   return set.find(c) != view::npos;
 }
 
-/// False for most characters that no sign or word for money begins with.
-bool may_start_currency(char16_t const c) noexcept {
-  return c == u'$' || c > 0xA2 || textio::platform::is_letter(c);
-}
-
 /// The letters at the start of a text up to a blank, a sign or a parenthesis, with a point or a
 /// dollar sign that stands between; 0 when they are too many for a currency or digits follow.
 std::size_t length_of_currency_word(view const text) noexcept {
@@ -54,7 +49,7 @@ class NumberScan {
       return std::nullopt;
     }
     take_exponent();
-    if ((!rest_.empty() && !take_back()) || is_open_) {
+    if ((!rest_.empty() && !(may_be_back() && take_back())) || is_open_) {
       return std::nullopt;
     }
     return number_;
@@ -96,13 +91,15 @@ class NumberScan {
     if (number_.dress.currency != 0 || is_too_long) {
       return false;
     }
+    bool const is_word = textio::platform::is_letter(rest_.front());
     std::size_t length = 1;
-    number_.dress.currency = currency_number(rest_.front());
+    number_.dress.currency = is_word ? std::uint8_t{0} : currency_number(rest_.front());
     if (number_.dress.currency == 0) {
       length = is_in_front ? length_of_currency_word(rest_)
                            : std::min(rest_.size(), rest_.find_first_of(u"-)"));
+      bool const has_length = length > 0 && length <= longest_currency;
       number_.dress.currency =
-          length <= longest_currency ? currency_number(rest_.substr(0, length)) : std::uint8_t{0};
+          has_length ? currency_number(rest_.substr(0, length)) : std::uint8_t{0};
     }
     if (number_.dress.currency == 0) {
       return false;
@@ -112,6 +109,14 @@ class NumberScan {
       drop_blanks();
     }
     return true;
+  }
+
+  /// A quick look: dates and times leave here.
+  [[nodiscard]] bool may_be_back() const noexcept {
+    constexpr std::size_t longest = 10;
+    char16_t const c = rest_.front();
+    return rest_.size() <= longest &&
+           (c == u' ' || c == u'%' || c == u'-' || c == u')' || c > 0x7F || may_start_currency(c));
   }
 
   /// A per cent sign, a currency, a minus sign, the closing parenthesis; blanks between them.
@@ -256,7 +261,8 @@ class NumberScan {
 /// Whether a text that begins with a letter may be an amount of money: a quick look, since most
 /// such texts are words.
 bool may_be_amount(view const text) noexcept {
-  return (is_digit(text.back()) || is_one_of(text.back(), u")-\u2212")) &&
+  return may_start_currency(text.front()) &&
+         (is_digit(text.back()) || is_one_of(text.back(), u")-\u2212")) &&
          length_of_currency_word(text) > 0;
 }
 
