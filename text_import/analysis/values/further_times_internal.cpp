@@ -202,6 +202,31 @@ bool is_duration_of_letters(view text) noexcept {
   return has_group;
 }
 
+ValueShape shape_behind_letter(view const text) {
+  if (text.front() == u'P' && is_duration_of_letters(text)) {
+    return ValueShape::Duration;
+  }
+  return is_stamp_of_weekday(text) ? ValueShape::DateTime : ValueShape::Empty;
+}
+
+ValueShape shape_without_colon(view const text) {
+  if (is_further_date(text)) {
+    return ValueShape::Date;
+  }
+  return is_days_and_clock(text) ? ValueShape::Duration : ValueShape::Empty;
+}
+
+ValueShape shape_with_colon(view const text) {
+  view const plain = without_decimals(without_zone_word(text));
+  bool const is_shorter = plain.size() < text.size();
+  if (is_clock_of_half_day(text) || is_days_and_clock(plain) || (is_shorter && is_clock(plain))) {
+    return ValueShape::Duration;
+  }
+  bool const is_stamp =
+      (is_shorter && is_of(plain, u"")) || is_date_and_clock(plain) || is_stamp_of_server(plain);
+  return is_stamp ? ValueShape::DateTime : ValueShape::Empty;
+}
+
 }  // namespace
 
 ValueShape shape_of_further_time(view const text) {
@@ -209,27 +234,12 @@ ValueShape shape_of_further_time(view const text) {
     return ValueShape::Empty;
   }
   if (is_letter(text.front())) {
-    bool const is_duration = text.front() == u'P' && is_duration_of_letters(text);
-    return is_duration                 ? ValueShape::Duration
-           : is_stamp_of_weekday(text) ? ValueShape::DateTime
-                                       : ValueShape::Empty;
+    return shape_behind_letter(text);
   }
   if (!is_digit(text.front()) && text.front() != u'-') {
     return ValueShape::Empty;
   }
-  if (text.find(u':') == view::npos) {
-    return is_date(text)             ? ValueShape::Date
-           : is_days_and_clock(text) ? ValueShape::Duration
-                                     : ValueShape::Empty;
-  }
-  view const plain = without_decimals(without_zone_word(text));
-  if (is_clock_of_half_day(text) || is_days_and_clock(plain) ||
-      (plain.size() < text.size() && is_clock(plain))) {
-    return ValueShape::Duration;
-  }
-  bool const is_stamp = (plain.size() < text.size() && is_of(plain, u"")) ||
-                        is_date_and_clock(plain) || is_stamp_of_server(plain);
-  return is_stamp ? ValueShape::DateTime : ValueShape::Empty;
+  return text.find(u':') == view::npos ? shape_without_colon(text) : shape_with_colon(text);
 }
 
 bool is_time_of_day(view const text) noexcept {

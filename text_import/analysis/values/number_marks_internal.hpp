@@ -58,6 +58,8 @@ class NumberTally {
     return counts_[static_cast<std::size_t>(style)];
   }
 
+  void add_plain(bool is_integer, std::size_t digits, bool is_zero) noexcept;
+
   std::array<Counts, 2> counts_;  ///< by the mark that is a style's decimal one
   std::size_t plain_integers_ = 0;
   std::size_t plain_reals_ = 0;
