@@ -44,8 +44,11 @@ bool is_plain_truth(TruthWords const& pair) {
 
 void WordCensus::add(view const word) {
   constexpr std::size_t longest = 16;
+  if (is_full()) {
+    return;
+  }
   auto const known =
-      std::ranges::find(words_, word, &std::pair<std::u16string, std::size_t>::first);
+      std::ranges::find_if(words_, [word](auto const& counted) { return counted.first == word; });
   if (known != words_.end()) {
     ++known->second;
   } else if (words_.size() < most_words && word.size() <= longest) {
@@ -64,6 +67,8 @@ void ColumnSummary::add(view const field, ValueGrammar const& values) {
     return;
   }
   if (look.shape == ValueShape::Missing) {
+    ++missing_;
+    longest_missing_ = std::max(longest_missing_, text.size());
     add_once(column_.missing_words, text);
     return;
   }
@@ -95,12 +100,14 @@ void ColumnSummary::add(view const field, ValueGrammar const& values) {
 
 void ColumnSummary::add_number(ValueLook const& look, view const text) {
   ++num_numbers_;
-  numbers_.add(look, text);
   column_.leading_zeros = column_.leading_zeros || look.leading_zeros;
   std::size_t const digits = textio::platform::leading_digits(text);
+  numbers_.add(look, digits, text.front() == u'0');
   fewest_digits_ = std::min(fewest_digits_, digits);
   most_digits_ = std::max(most_digits_, digits);
-  add_dress(look.dress, text);
+  if (look.dress != NumberDress()) {
+    add_dress(look.dress, text);
+  }
 }
 
 void ColumnSummary::add_dress(NumberDress const& dress, view const text) {
@@ -143,7 +150,7 @@ void ColumnSummary::settle_style(FileStyle const& file) {
 
 /// Finds the pair of words for true and false that the column is made of.
 void ColumnSummary::settle_truth() {
-  if (!words_.has_all()) {
+  if (!words_.has_all() || words_.words().empty()) {
     return;
   }
   for (TruthWords const& pair : truth_pairs) {
@@ -248,8 +255,22 @@ void ColumnSummary::move_missing_words(ValueType const type) {
   counts_.values -= missing;
 }
 
+/// Signs that stand for a missing value among others are texts where there are no others.
+void ColumnSummary::keep_lone_signs() {
+  auto const has_letter = [](std::u16string const& word) {
+    return std::ranges::any_of(word, textio::platform::is_letter);
+  };
+  auto& words = column_.missing_words;
+  if (counts_.values == 0 && missing_ > 0 && std::ranges::none_of(words, has_letter)) {
+    words.clear();
+    counts_.values = missing_;
+    counts_.longest_value = longest_missing_;
+  }
+}
+
 /// The narrowest type that nearly all values fit.
 void ColumnSummary::settle_type() {
+  keep_lone_signs();
   if (counts_.values == 0) {
     return;
   }

@@ -46,6 +46,9 @@ class WordCensus {
   [[nodiscard]] bool has_all() const { return has_all_; }
 
  private:
+  /// Nothing more is counted.
+  [[nodiscard]] bool is_full() const { return !has_all_ && words_.size() == most_words; }
+
   std::vector<std::pair<std::u16string, std::size_t>> words_;
   bool has_all_ = true;  ///< there are no others
 };
@@ -70,6 +73,7 @@ class ColumnSummary {
   void add_dress(NumberDress const& dress, std::u16string_view text);
   void settle_style(FileStyle const& file);
   void settle_truth();
+  void keep_lone_signs();
   void settle_type();
   void settle_numbers();
   void move_missing_words(ValueType type);
@@ -87,6 +91,8 @@ class ColumnSummary {
   ColumnEvidence counts_;
   std::array<std::size_t, num_shapes> shapes_{};
   std::size_t quoted_ = 0;
+  std::size_t missing_ = 0;  ///< words for no value, and the longest of them in code units
+  std::size_t longest_missing_ = 0;
   WordCensus words_;  ///< texts and words for true and false
   std::size_t truths_ = 0;
   std::size_t nearest_ = 0;  ///< of a column of texts: values of the type that most of them fit

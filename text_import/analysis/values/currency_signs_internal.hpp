@@ -94,15 +94,31 @@ inline constexpr auto currency_signs = std::to_array<std::u16string_view>({u"$",
 inline constexpr std::size_t num_currency_characters = 12;
 inline constexpr std::size_t longest_currency = 4;
 
+/// For each ASCII character, whether one of the signs begins with it.
+inline constexpr std::array<bool, 128> currency_starts = [] {
+  std::array<bool, 128> starts{};
+  for (std::u16string_view const sign : currency_signs) {
+    if (sign.front() < starts.size()) {
+      starts[sign.front()] = true;
+    }
+  }
+  return starts;
+}();
+
+/// False for most characters that no sign or word for money begins with: a quick look.
+[[nodiscard]] constexpr bool may_start_currency(char16_t const c) noexcept {
+  return c < currency_starts.size() ? currency_starts[c] : c > 0xA2;
+}
+
 /// The sign of a number, which stands in its dress; empty for 0.
 [[nodiscard]] constexpr std::u16string_view currency_sign(std::uint8_t const number) noexcept {
   return number == 0 ? std::u16string_view{} : currency_signs[number - 1U];
 }
 
-/// The number of the sign that the whole text is; 0 for none.
+/// The number of the sign that the whole text is, which is not empty; 0 for none.
 [[nodiscard]] constexpr std::uint8_t currency_number(std::u16string_view const text) noexcept {
   for (std::size_t i = 0; i < currency_signs.size(); ++i) {
-    if (currency_signs[i] == text) {
+    if (currency_signs[i].front() == text.front() && currency_signs[i] == text) {
       return static_cast<std::uint8_t>(i + 1);
     }
   }

@@ -199,7 +199,9 @@ std::u16string DateEvidence::pattern_of_number(Token const& token, char16_t cons
   if ((is_whole && token.shortest != token.longest) || !is_year) {
     return {};
   }
-  return std::u16string(is_whole ? token.shortest : std::min<std::size_t>(token.shortest, 2), role);
+  std::size_t const letters = is_whole ? token.shortest : std::min<std::size_t>(token.shortest, 2);
+  std::u16string pattern(letters, role);
+  return pattern;
 }
 
 /// Empty when the tokens have no pattern.

@@ -120,15 +120,19 @@ bool is_short_date(view const text) {
           (is_of(text, u"dd-MM-yy") || is_of(text, u"MM-dd-yy") || is_of(text, u"yy-MM-dd")));
 }
 
-bool is_date(view const text) {
-  if (text.size() < 6 || text.size() > longest_text || !is_digit(text.front())) {
+/// A date that is none of the usual forms.
+bool is_further_date(view const text) {
+  std::size_t const digits = leading_digits(text);
+  if (text.size() < 8 || digits == 0 || digits > 4) {
     return false;
   }
-  if (is_short_date(text) || is_of(text, u"") || is_date_in_characters(text)) {
-    return true;
-  }
-  bool const has_points = text.find(u". ") != view::npos || text.ends_with(u'.');
-  return has_points && is_of(without_blanks(text), u"");
+  bool const has_points = text[digits] == u'.' && (text[digits + 1] == u' ' || text.back() == u'.');
+  return is_short_date(text) || (digits == 4 && is_date_in_characters(text)) ||
+         (has_points && is_of(without_blanks(text), u""));
+}
+
+bool is_date(view const text) {
+  return is_of(text, u"") || is_further_date(text);
 }
 
 /// The date and the time of day behind it, with a blank, a comma or a T between.
@@ -145,13 +149,22 @@ bool is_date_and_clock(view const text) {
   return is_date(date) && (is_time(clock) || is_clock_of_half_day(clock));
 }
 
-/// "05/Jan/2024:10:30:00 +0100" and "Fri Jan  5 10:30:00 2024"
-bool is_stamp_of_program(view const text) {
-  if (text.size() > 12 && text[2] == u'/' && text[11] == u':') {
-    return is_of(text, u"dd/MMM/yyyy:HH:mm:ss Z") || is_of(text, u"dd/MMM/yyyy:HH:mm:ss");
+/// "05/Jan/2024:10:30:00 +0100"
+bool is_stamp_of_server(view const text) {
+  return text.size() > 12 && text[2] == u'/' && text[11] == u':' &&
+         (is_of(text, u"dd/MMM/yyyy:HH:mm:ss Z") || is_of(text, u"dd/MMM/yyyy:HH:mm:ss"));
+}
+
+/// "Fri Jan  5 10:30:00 2024", and what the usual forms begin with a weekday but for a zone's word.
+bool is_stamp_of_weekday(view const text) {
+  bool const has_blanks = text.size() >= 20 && (text[3] == u' ' || text[3] == u',') &&
+                          (text[6] == u' ' || text[7] == u' ');
+  if (!has_blanks || text.find(u':') == view::npos) {
+    return false;
   }
-  return is_letter(text.front()) && text.size() > 20 && text[3] == u' ' &&
-         (is_of(text, u"EEE MMM d HH:mm:ss yyyy") || is_of(text, u"EEE MMM  d HH:mm:ss yyyy"));
+  view const plain = without_zone_word(text);
+  return (is_of(text, u"EEE MMM d HH:mm:ss yyyy") || is_of(text, u"EEE MMM  d HH:mm:ss yyyy") ||
+          (plain.size() < text.size() && is_of(plain, u"")));
 }
 
 /// "1-02:03:04", "2 days 03:04:05", "1 day, 2:03:04"
@@ -189,28 +202,44 @@ bool is_duration_of_letters(view text) noexcept {
   return has_group;
 }
 
+ValueShape shape_behind_letter(view const text) {
+  if (text.front() == u'P' && is_duration_of_letters(text)) {
+    return ValueShape::Duration;
+  }
+  return is_stamp_of_weekday(text) ? ValueShape::DateTime : ValueShape::Empty;
+}
+
+ValueShape shape_without_colon(view const text) {
+  if (is_further_date(text)) {
+    return ValueShape::Date;
+  }
+  return is_days_and_clock(text) ? ValueShape::Duration : ValueShape::Empty;
+}
+
+ValueShape shape_with_colon(view const text) {
+  view const plain = without_decimals(without_zone_word(text));
+  bool const is_shorter = plain.size() < text.size();
+  if (is_clock_of_half_day(text) || is_days_and_clock(plain) || (is_shorter && is_clock(plain))) {
+    return ValueShape::Duration;
+  }
+  bool const is_stamp =
+      (is_shorter && is_of(plain, u"")) || is_date_and_clock(plain) || is_stamp_of_server(plain);
+  return is_stamp ? ValueShape::DateTime : ValueShape::Empty;
+}
+
 }  // namespace
 
 ValueShape shape_of_further_time(view const text) {
   if (text.size() > longest_text || text.size() < 4) {
     return ValueShape::Empty;
   }
-  if (text.front() == u'P' && (is_digit(text[1]) || text[1] == u'T')) {
-    return is_duration_of_letters(text) ? ValueShape::Duration : ValueShape::Empty;
+  if (is_letter(text.front())) {
+    return shape_behind_letter(text);
   }
-  if (text.find(u':') == view::npos) {
-    return is_date(text)             ? ValueShape::Date
-           : is_days_and_clock(text) ? ValueShape::Duration
-                                     : ValueShape::Empty;
+  if (!is_digit(text.front()) && text.front() != u'-') {
+    return ValueShape::Empty;
   }
-  view const plain = without_decimals(without_zone_word(text));
-  if (is_clock_of_half_day(text) || is_days_and_clock(plain) ||
-      (plain.size() < text.size() && is_clock(plain))) {
-    return ValueShape::Duration;
-  }
-  bool const is_stamp = (plain.size() < text.size() && is_of(plain, u"")) ||
-                        is_date_and_clock(plain) || is_stamp_of_program(plain);
-  return is_stamp ? ValueShape::DateTime : ValueShape::Empty;
+  return text.find(u':') == view::npos ? shape_without_colon(text) : shape_with_colon(text);
 }
 
 bool is_time_of_day(view const text) noexcept {

@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "text_import/analysis/values/number_marks_internal.hpp"
 
-#include <algorithm>
-
-#include "text_format_detection/platform/ascii_internal.hpp"
-
 namespace textimport::analysis {
 
 namespace {
@@ -24,31 +20,30 @@ constexpr std::optional<MarkStyle> style_of(char16_t const mark) noexcept {
 
 }  // namespace
 
-void NumberTally::add(ValueLook const& look, std::u16string_view const text) noexcept {
-  bool const is_integer = look.shape == ValueShape::Integer;
+void NumberTally::add(ValueLook const& look, std::size_t const digits,
+                      bool const is_zero) noexcept {
   auto const decimal = style_of(look.marks.decimal);
   auto const thousands = style_of(look.marks.thousands);
   other_decimal_ = look.marks.decimal != 0 && !decimal ? look.marks.decimal : other_decimal_;
   other_thousands_ =
       look.marks.thousands != 0 && !thousands ? look.marks.thousands : other_thousands_;
-  if (decimal) {
-    Counts& counts = counts_[static_cast<std::size_t>(*decimal)];
-    ++(look.marks.either ? counts.either : counts.decimals);
-  }
-  if (thousands) {
-    Counts& counts = counts_[static_cast<std::size_t>(*thousands)];
-    counts.between_thousands = counts.between_thousands || !look.marks.either;
-    counts.either += look.marks.either && !decimal ? 1U : 0U;
-    counts.thousands += !look.marks.either && !decimal ? 1U : 0U;
-  }
-  if (decimal || thousands) {
+  if (!decimal && !thousands) {
+    add_plain(look.shape == ValueShape::Integer, digits, is_zero);
     return;
   }
+  bool const either = look.marks.either;
+  if (thousands) {
+    Counts& counts = counts_[static_cast<std::size_t>(*thousands)];
+    counts.between_thousands = counts.between_thousands || !either;
+  }
+  Counts& counts = counts_[static_cast<std::size_t>(decimal ? *decimal : *thousands)];
+  ++(either ? counts.either : decimal ? counts.decimals : counts.thousands);
+}
+
+void NumberTally::add_plain(bool const is_integer, std::size_t const digits,
+                            bool const is_zero) noexcept {
   ++(is_integer ? plain_integers_ : plain_reals_);
-  if (is_integer && other_thousands_ == 0) {
-    auto const digits =
-        static_cast<std::size_t>(std::ranges::count_if(text, textio::platform::is_digit));
-    bool const is_zero = text.find_first_of(u"123456789") == text.npos;
+  if (is_integer && other_thousands_ == 0 && digits > 0) {
     short_integers_ += digits <= 3 && !is_zero ? 1U : 0U;
     long_integers_ += digits > 3 ? 1U : 0U;
   }

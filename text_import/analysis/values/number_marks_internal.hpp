@@ -9,7 +9,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <string_view>
 
 #include "text_import/analysis/values/value_shape_internal.hpp"
 
@@ -21,8 +20,9 @@ enum class MarkStyle : std::uint8_t { Point, Comma };
 /// The numbers of one column, counted by what they show of marks.
 class NumberTally {
  public:
-  /// `look` is an Integer or a Real; `text` its value, as a whole.
-  void add(ValueLook const& look, std::u16string_view text) noexcept;
+  /// `look` is an Integer or a Real, which begins with so many digits, the first of them a zero or
+  /// not.
+  void add(ValueLook const& look, std::size_t digits, bool is_zero) noexcept;
 
   /// How many numbers show the style and fit no other: "1.5", "1,234,567" and "1,234.5" the point.
   [[nodiscard]] std::size_t count_for(MarkStyle style) const noexcept;
@@ -58,7 +58,7 @@ class NumberTally {
     return counts_[static_cast<std::size_t>(style)];
   }
 
-  void add_single(Counts& counts, ValueLook const& look, char16_t mark) noexcept;
+  void add_plain(bool is_integer, std::size_t digits, bool is_zero) noexcept;
 
   std::array<Counts, 2> counts_;  ///< by the mark that is a style's decimal one
   std::size_t plain_integers_ = 0;

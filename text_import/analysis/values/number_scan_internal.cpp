@@ -49,7 +49,7 @@ class NumberScan {
       return std::nullopt;
     }
     take_exponent();
-    if ((!rest_.empty() && !take_back()) || is_open_) {
+    if ((!rest_.empty() && !(may_be_back() && take_back())) || is_open_) {
       return std::nullopt;
     }
     return number_;
@@ -73,7 +73,9 @@ class NumberScan {
 
   /// A parenthesis or a sign, and a currency, each once and in any order.
   void take_front() noexcept {
-    while (!rest_.empty() && ((!has_sign_ && take_sign()) || take_currency(true))) {
+    while (!rest_.empty() && !is_digit(rest_.front()) &&
+           ((!has_sign_ && take_sign()) ||
+            (may_start_currency(rest_.front()) && take_currency(true)))) {
     }
   }
 
@@ -85,16 +87,19 @@ class NumberScan {
 
   /// One that is written in letters stands apart from the digits in front of it, or ends the text.
   bool take_currency(bool const is_in_front) noexcept {
-    if (number_.dress.currency != 0 || rest_.empty()) {
+    bool const is_too_long = !is_in_front && rest_.size() > longest_currency + 2;
+    if (number_.dress.currency != 0 || is_too_long) {
       return false;
     }
+    bool const is_word = textio::platform::is_letter(rest_.front());
     std::size_t length = 1;
-    number_.dress.currency = currency_number(rest_.front());
+    number_.dress.currency = is_word ? std::uint8_t{0} : currency_number(rest_.front());
     if (number_.dress.currency == 0) {
       length = is_in_front ? length_of_currency_word(rest_)
                            : std::min(rest_.size(), rest_.find_first_of(u"-)"));
+      bool const has_length = length > 0 && length <= longest_currency;
       number_.dress.currency =
-          length <= longest_currency ? currency_number(rest_.substr(0, length)) : std::uint8_t{0};
+          has_length ? currency_number(rest_.substr(0, length)) : std::uint8_t{0};
     }
     if (number_.dress.currency == 0) {
       return false;
@@ -106,13 +111,21 @@ class NumberScan {
     return true;
   }
 
+  /// A quick look: dates and times leave here.
+  [[nodiscard]] bool may_be_back() const noexcept {
+    constexpr std::size_t longest = 10;
+    char16_t const c = rest_.front();
+    return rest_.size() <= longest &&
+           (c == u' ' || c == u'%' || c == u'-' || c == u')' || c > 0x7F || may_start_currency(c));
+  }
+
   /// A per cent sign, a currency, a minus sign, the closing parenthesis; blanks between them.
   bool take_back() noexcept {
     do {
       bool const has_blank = is_one_of(rest_.front(), blanks);
       drop_blanks();
-      if (rest_.empty() ||
-          !(take_share() || (!has_blank && take_end_of_negative()) || take_currency(false))) {
+      if (rest_.empty() || !(take_share() || (!has_blank && take_end_of_negative()) ||
+                             (may_start_currency(rest_.front()) && take_currency(false)))) {
         return false;
       }
     } while (!rest_.empty());
@@ -248,7 +261,8 @@ class NumberScan {
 /// Whether a text that begins with a letter may be an amount of money: a quick look, since most
 /// such texts are words.
 bool may_be_amount(view const text) noexcept {
-  return (is_digit(text.back()) || is_one_of(text.back(), u")-\u2212")) &&
+  return may_start_currency(text.front()) &&
+         (is_digit(text.back()) || is_one_of(text.back(), u")-\u2212")) &&
          length_of_currency_word(text) > 0;
 }
 

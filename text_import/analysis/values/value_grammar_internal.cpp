@@ -123,9 +123,10 @@ std::size_t length_of_flag(view const text) noexcept {
 
 /// A quick look.
 bool may_be_flagged(view const text) noexcept {
-  return text.size() >= 2 &&
-         (text.back() == u'*' || flag_letters.find(text.back()) != view::npos) &&
-         (text.front() == u':' || text.front() == u'-' || textio::platform::is_digit(text.front()));
+  bool const may_start =
+      textio::platform::is_digit(text.front()) || text.front() == u':' || text.front() == u'-';
+  return may_start && text.size() >= 2 &&
+         (text.back() == u'*' || flag_letters.find(text.back()) != view::npos);
 }
 
 }  // namespace

@@ -43,6 +43,8 @@ struct NumberDress {
   bool minus_behind = false;  ///< "12.50-"
   std::uint8_t currency = 0;  ///< position in currency_signs plus one; 0: none
   std::uint8_t flag = 0;      ///< code units of a remark at the end, such as " p" for provisional
+
+  friend bool operator==(NumberDress const&, NumberDress const&) = default;
 };
 
 struct ValueLook {
