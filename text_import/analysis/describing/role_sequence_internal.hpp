@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+//
+// The roles of all lines of a table, decided together: the best of all sequences that are possible.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <string_view>
+#include <vector>
+
+#include "text_import/analysis/describing/line_features_internal.hpp"
+
+namespace textimport::analysis {
+
+/// The roles among which the weights decide, in the order in which they stand in a text: titles and
+/// then names above the data; data, groups and totals in any order; notes below.
+enum class TableRole : std::uint8_t { Title, Names, Data, Group, Total, Note };
+
+inline constexpr std::size_t num_table_roles = 6;
+
+/// Weights are whole sixteenths.
+using RoleScores = std::array<std::int32_t, num_table_roles>;
+
+/// One bit for each role that a line may have.
+using RoleSet = std::uint8_t;
+
+[[nodiscard]] constexpr RoleSet set_of(TableRole const role) noexcept {
+  return static_cast<RoleSet>(1U << static_cast<unsigned>(role));
+}
+
+inline constexpr RoleSet above_roles = set_of(TableRole::Title) | set_of(TableRole::Names);
+inline constexpr RoleSet body_roles =
+    set_of(TableRole::Data) | set_of(TableRole::Group) | set_of(TableRole::Total);
+inline constexpr RoleSet all_roles = above_roles | body_roles | set_of(TableRole::Note);
+
+/// How much worse a sequence is that no sequence is worse than.
+inline constexpr std::int32_t no_doubt = std::numeric_limits<std::int32_t>::max();
+
+/// By how much the best sequence is better than the best one with another first line of data, last
+/// line of data, or other names.
+struct RoleMargins {
+  std::int32_t first_line = no_doubt;
+  std::int32_t last_line = no_doubt;
+  std::int32_t names = no_doubt;
+};
+
+struct RoleSequence {
+  std::vector<TableRole> roles;   ///< one for each line
+  std::vector<TableRole> rivals;  ///< for each line what it would be if not that
+  RoleMargins margins;
+};
+
+/// What the features of one line say for each role.
+[[nodiscard]] RoleScores score_of(JudgedLine const& line) noexcept;
+
+/// `allowed`: for each line the roles that it may have; empty for all. Without `sees_end` no line
+/// is a note. Where what is allowed leaves no sequence, the lines are data. Linear in the lines.
+[[nodiscard]] RoleSequence best_roles(std::vector<JudgedLine> const& lines, bool sees_end,
+                                      std::vector<RoleSet> const& allowed);
+
+/// What speaks most for the one role of a line and against the other: at most three sentences.
+[[nodiscard]] std::vector<std::string_view> reasons_for(JudgedLine const& line, TableRole role,
+                                                        TableRole rival);
+
+/// The share of tables with such a margin that are right, 0 to 1.
+[[nodiscard]] double share_right(std::int32_t margin) noexcept;
+
+}  // namespace textimport::analysis
