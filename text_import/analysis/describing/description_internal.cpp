@@ -48,8 +48,9 @@ class Describer {
     format().source = task.source;
     bool const is_given = task.request.header_lines || task.request.format;
     format().region.start.origin = given_or(is_given, Origin::Found);
-    format().region.end.origin = given_or(task.request.format.has_value(), Origin::Found);
-    format().region.names_origin = format().region.end.origin;
+    bool const is_saved = task.request.format.has_value();
+    format().region.end.origin = given_or(is_saved || task.request.last_line, Origin::Found);
+    format().region.names_origin = given_or(is_saved || task.request.name_lines, Origin::Found);
   }
 
   Description describe_table(Reading const& r, Hypothesis const& hypothesis) {
@@ -245,6 +246,9 @@ class Describer {
   [[nodiscard]] std::size_t first_of_list() const {
     if (given_.first) {
       return *given_.first;
+    }
+    if (given_.name_lines) {
+      return given_.name_lines->empty() ? 0 : std::min(given_.name_lines->back() + 1, lines_.count());
     }
     if (lines_.count() < 2) {
       return 0;

@@ -156,8 +156,10 @@ class RoleReader {
     NameRows names;
     if (!rows.empty()) {
       names = read_names(table_, rows, {found_.rows, given_.name_lines.has_value()});
-    } else if (!given_.name_lines || !given_.name_lines->empty()) {
+    } else if (!given_.name_lines) {
       names = find_commented_names(table_, first_);
+    } else if (!given_.name_lines->empty()) {
+      names = read_commented_names(table_, given_.name_lines->front());
     }
     found_.num_columns = std::max(names.num_columns, table_.columns());
     found_.names = std::move(names.names);

@@ -305,4 +305,16 @@ NameRows find_commented_names(TableLines const& lines, std::size_t const first_d
   return found;
 }
 
+NameRows read_commented_names(TableLines const& lines, std::size_t const line) {
+  NameRows found;
+  found.num_columns = lines.columns();
+  auto const at = std::ranges::find(lines.all(), line, &TableLine::line);
+  if (at != lines.all().end() && at->kind == LineKind::Comment) {
+    found.names = split_line(lines.reading(), without_marker(lines.text(*at)));
+    found.names.resize(found.num_columns);
+    found.rows = {static_cast<std::size_t>(at - lines.all().begin())};
+  }
+  return found;
+}
+
 }  // namespace textimport::analysis

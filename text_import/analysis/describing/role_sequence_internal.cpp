@@ -28,6 +28,12 @@ bool may_follow(std::size_t const role, std::size_t const last) noexcept {
   return part_of(role) >= part_of(last) && !is_note_on_top;
 }
 
+/// A feature that is younger than the table says nothing: its weights are made with its help.
+RoleScores weights_of(LineFeature const feature) noexcept {
+  auto const row = static_cast<std::size_t>(feature);
+  return row < role_weights.size() ? role_weights[row] : RoleScores();
+}
+
 class RolePath {
  public:
   RolePath(std::vector<JudgedLine> const& lines, bool const sees_end,
@@ -160,7 +166,7 @@ class RolePath {
 RoleScores score_of(JudgedLine const& line) noexcept {
   RoleScores scores{};
   for (LineFeature const feature : line.features) {
-    auto const& weights = role_weights[static_cast<std::size_t>(feature)];
+    RoleScores const weights = weights_of(feature);
     for (std::size_t role = 0; role < num_table_roles; ++role) {
       scores[role] += weights[role];
     }
@@ -185,7 +191,7 @@ std::vector<std::string_view> reasons_for(JudgedLine const& line, TableRole cons
 
   std::vector<Reason> found;
   for (LineFeature const feature : line.features) {
-    auto const& weights = role_weights[static_cast<std::size_t>(feature)];
+    RoleScores const weights = weights_of(feature);
     std::int32_t const weight =
         weights[static_cast<std::size_t>(role)] - weights[static_cast<std::size_t>(rival)];
     std::string_view const sentence = feature_texts[static_cast<std::size_t>(feature)].sentence;
