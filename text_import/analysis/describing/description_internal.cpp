@@ -248,7 +248,8 @@ class Describer {
       return *given_.first;
     }
     if (given_.name_lines) {
-      return given_.name_lines->empty() ? 0 : std::min(given_.name_lines->back() + 1, lines_.count());
+      return given_.name_lines->empty() ? 0
+                                        : std::min(given_.name_lines->back() + 1, lines_.count());
     }
     if (lines_.count() < 2) {
       return 0;

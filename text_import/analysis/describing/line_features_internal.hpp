@@ -32,8 +32,8 @@ namespace textimport::analysis {
   X(ShortByOne, "it has one cell less than the table has columns")                  \
   X(ShortRow, "it has fewer cells than the table has columns")                      \
   X(LongRow, "it has more cells than the table has columns")                        \
-  X(RegularRow, "it has as many cells as the table has columns")                                  \
-  X(RaggedRow, "lines of another length are frequent here")                                       \
+  X(RegularRow, "it has as many cells as the table has columns")                    \
+  X(RaggedRow, "lines of another length are frequent here")                         \
   X(Undivided, "nothing divides it into cells")                                     \
   X(UndividedAligned, "it does not fit columns that are lined up")                  \
   X(KindsAll, "its values are of the kinds that the columns hold")                  \
@@ -52,7 +52,7 @@ namespace textimport::analysis {
   X(AllYears, "its numbers are years")                                              \
   X(CountsUp, "its numbers count up")                                               \
   X(YearsAreUsual, "years stand in its columns elsewhere too")                      \
-  X(YearTexts, "several of its texts hold a year")                                                \
+  X(YearTexts, "several of its texts hold a year")                                  \
   X(Decimals, "a number has decimals")                                              \
   X(LongText, "it holds a long text")                                               \
   X(VeryLongText, "it holds a very long text")                                      \
@@ -69,7 +69,7 @@ namespace textimport::analysis {
   X(TitleWord, "it begins with a word for a table")                                 \
   X(UnitWord, "a cell begins with the word for a unit")                             \
   X(InBrackets, "it stands in brackets")                                            \
-  X(BracketCells, "most of its cells stand in brackets")                                          \
+  X(BracketCells, "most of its cells stand in brackets")                            \
   X(SmallFirst, "it begins with a small letter")                                    \
   X(Capitals, "its first text is in capitals")                                      \
   X(Indented, "its first cell is indented")                                         \
@@ -87,7 +87,7 @@ namespace textimport::analysis {
   X(FirstLine, "it is the first line")                                              \
   X(SecondLine, "it is the second line")                                            \
   X(ThirdLine, "it is one of the next lines")                                       \
-  X(LaterLine, "many lines stand before it")                                                      \
+  X(LaterLine, "many lines stand before it")                                        \
   X(LastLine, "it is the last line")                                                \
   X(NearEnd, "it is one of the last lines")                                         \
   X(BlankBefore, "a blank line stands before it")                                   \
@@ -97,15 +97,15 @@ namespace textimport::analysis {
   X(RulerBehind, "a ruler stands behind it")                                        \
   X(CommentBefore, "a comment stands before it")                                    \
   X(Fits, "it fits the columns")                                                    \
-  X(BeforeBlock, "it stands before the regular lines")                                            \
-  X(FirstOfBlock, "it is the first of the regular lines")                                         \
-  X(BehindBlock, "it stands behind the regular lines")                                            \
+  X(BeforeBlock, "it stands before the regular lines")                              \
+  X(FirstOfBlock, "it is the first of the regular lines")                           \
+  X(BehindBlock, "it stands behind the regular lines")                              \
   X(BeforeFitting, "no line before it fits the columns")                            \
   X(BehindFitting, "no line behind it fits the columns")                            \
   X(FewFitBehind, "few lines behind it fit the columns")                            \
   X(NextFits, "the line behind it fits the columns")                                \
-  X(RunBehind, "the next lines all fit the columns")                                              \
-  X(TextSoon, "a line that is not divided follows soon")                                          \
+  X(RunBehind, "the next lines all fit the columns")                                \
+  X(TextSoon, "a line that is not divided follows soon")                            \
   X(LastFits, "the line before it fits the columns")                                \
   X(SumAbove, "it is the sum of lines above it")                                    \
   X(SumBelow, "it is the sum of lines below it")                                    \

@@ -36,7 +36,9 @@ RoleSet allowed_roles(GivenRegion const& given, std::size_t const line) {
   }
   if (given.name_lines) {
     RoleSet const names = set_of(TableRole::Names);
-    roles &= holds(*given.name_lines, line) ? names : static_cast<RoleSet>(all_roles & ~names);
+    bool const may_be_units = !given.name_lines->empty() && line > given.name_lines->back();
+    RoleSet const others = may_be_units ? all_roles : static_cast<RoleSet>(all_roles & ~names);
+    roles &= holds(*given.name_lines, line) ? names : others;
   }
   return roles;
 }
@@ -100,7 +102,7 @@ class RoleReader {
     doubt(TablePart::Names, best_.margins.names);
     roles_.resize(table_.all().size());
     for (std::size_t i = 0; i < judged_.size(); ++i) {
-      roles_[judged_[i].position] = role_of(best_.roles[i]);
+      roles_[judged_[i].position] = role_of(told_role(judged_[i], best_.roles[i]));
     }
   }
 
@@ -153,9 +155,15 @@ class RoleReader {
         rows.push_back(i);
       }
     }
+    std::vector<std::size_t> named = rows;
+    if (given_.name_lines) {
+      std::erase_if(named, [this](std::size_t const row) {
+        return !holds(*given_.name_lines, table_.all()[row].line);
+      });
+    }
     NameRows names;
-    if (!rows.empty()) {
-      names = read_names(table_, rows, {found_.rows, given_.name_lines.has_value()});
+    if (!named.empty()) {
+      names = read_names(table_, named, {found_.rows, given_.name_lines.has_value()});
     } else if (!given_.name_lines) {
       names = find_commented_names(table_, first_);
     } else if (!given_.name_lines->empty()) {

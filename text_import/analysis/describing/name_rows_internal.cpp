@@ -5,6 +5,7 @@
 #include "text_import/analysis/describing/name_rows_internal.hpp"
 
 #include <algorithm>
+#include <numeric>
 #include <optional>
 #include <set>
 
@@ -125,7 +126,8 @@ class NameReader {
     TableLine const& line = lines_.all()[row];
     Names cells = cells_of(line);
     bool const is_fixed = lines_.reading().layout == Layout::FixedWidth;
-    if (!places_.empty() && (cells.size() != columns_ || is_fixed)) {
+    bool const are_quoted = cells.size() + 1 == columns_ && has_quotes(line);
+    if (!places_.empty() && !are_quoted && (cells.size() != columns_ || is_fixed)) {
       return names_by_place(lines_.text(line), places_);
     }
     while (cells.size() > columns_ && cells.back().empty()) {
@@ -142,6 +144,11 @@ class NameReader {
   }
 
  private:
+  [[nodiscard]] bool has_quotes(TableLine const& line) const {
+    char16_t const quote = lines_.reading().quote;
+    return quote != 0 && trimmed(lines_.text(line)).front() == quote;
+  }
+
   [[nodiscard]] Names cells_of(TableLine const& line) const {
     Names cells;
     Reading const& r = lines_.reading();
@@ -202,6 +209,38 @@ bool are_complete(Names const& names) {
   return filled == names.size() || (filled + 1 == names.size() && names.front().empty());
 }
 
+std::vector<std::size_t> all_of(std::size_t const count) {
+  std::vector<std::size_t> all(count);
+  std::iota(all.begin(), all.end(), std::size_t{0});
+  return all;
+}
+
+/// Whether a blank line stands between two lines.
+bool are_apart(TableLines const& lines, std::size_t const upper, std::size_t const lower) {
+  auto const first = lines.all().begin() + static_cast<std::ptrdiff_t>(upper);
+  auto const end = lines.all().begin() + static_cast<std::ptrdiff_t>(lower);
+  return std::any_of(first, end,
+                     [](TableLine const& line) { return line.kind == LineKind::Blank; });
+}
+
+/// Which of the rows hold the names. A row that has all names, each another, is enough; units may
+/// stand below it, and titles above it behind a blank line. Of others the last row with all names,
+/// or all rows together.
+std::vector<std::size_t> choose_rows(TableLines const& lines, std::vector<std::size_t> const& rows,
+                                     std::vector<Names> const& read) {
+  std::optional<std::size_t> enough;
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    bool const is_first = !enough || are_apart(lines, rows[*enough], rows[i]);
+    if (is_first && are_complete(read[i]) && are_different(read[i])) {
+      enough = i;
+    }
+  }
+  if (!enough && num_filled(read.back()) == read.back().size()) {
+    enough = rows.size() - 1;
+  }
+  return enough ? std::vector<std::size_t>{*enough} : all_of(rows.size());
+}
+
 /// An empty cell takes what its left neighbour says, where the rows below go on.
 void fill_merged(Names& upper, Names const& lower) {
   for (std::size_t i = 1; i < upper.size() && i < lower.size(); ++i) {
@@ -260,27 +299,19 @@ NameRows read_names(TableLines const& lines, std::vector<std::size_t> const& row
   for (std::size_t const row : rows) {
     read.push_back(reader.read(row));
   }
+  for (Names& names : read) {
+    names.resize(reader.columns());
+  }
+  std::vector<std::size_t> const chosen =
+      request.all_are_names ? all_of(rows.size()) : choose_rows(lines, rows, read);
   NameRows found;
   found.num_columns = reader.columns();
-  std::size_t enough = rows.size();
-  for (std::size_t i = 0; i < rows.size() && !request.all_are_names; ++i) {
-    read[i].resize(reader.columns());
-    if (are_complete(read[i]) && are_different(read[i])) {
-      enough = i;
-      break;
-    }
+  std::vector<Names> texts;
+  for (std::size_t const i : chosen) {
+    texts.push_back(std::move(read[i]));
+    found.rows.push_back(rows[i]);
   }
-  if (enough == rows.size() && are_complete(read.back())) {
-    enough = rows.size() - 1;
-  }
-  if (enough < rows.size() && !request.all_are_names) {
-    found.names = read[enough];
-    found.rows = {rows[enough]};
-  } else {
-    found.names = joined(read);
-    found.rows = rows;
-  }
-  found.names.resize(found.num_columns);
+  found.names = joined(std::move(texts));
   return found;
 }
 

@@ -32,8 +32,8 @@ struct NameRequest {
 /// The names in a comment directly above the data, at a position among the lines.
 [[nodiscard]] NameRows find_commented_names(TableLines const& lines, std::size_t first_data);
 
-/// The names in a comment that is known to hold them, by its physical line; none when no line of the
-/// reading is there.
+/// The names in a comment that is known to hold them, by its physical line; none when no line of
+/// the reading is there.
 [[nodiscard]] NameRows read_commented_names(TableLines const& lines, std::size_t line);
 
 }  // namespace textimport::analysis

@@ -41,7 +41,7 @@ class RolePath {
       : lines_(lines), scores_(lines.size()), before_(lines.size()), behind_(lines.size()) {
     for (std::size_t i = 0; i < lines.size(); ++i) {
       scores_[i] = score_of(lines[i]);
-      auto roles = allowed.empty() ? all_roles : allowed[i];
+      RoleSet roles = allowed.empty() ? all_roles : allowed[i];
       roles = static_cast<RoleSet>(sees_end ? roles : roles & ~set_of(TableRole::Note));
       for (std::size_t role = 0; role < num_table_roles; ++role) {
         if ((roles >> role & 1U) == 0) {
@@ -177,6 +177,18 @@ RoleScores score_of(JudgedLine const& line) noexcept {
 RoleSequence best_roles(std::vector<JudgedLine> const& lines, bool const sees_end,
                         std::vector<RoleSet> const& allowed) {
   return lines.empty() ? RoleSequence() : RolePath(lines, sees_end, allowed).run();
+}
+
+TableRole told_role(JudgedLine const& line, TableRole const role) noexcept {
+  auto const has_any = [&line](auto const... features) {
+    return std::ranges::any_of(
+        line.features, [&](LineFeature const feature) { return ((feature == features) || ...); });
+  };
+  using enum LineFeature;
+  bool const is_kept = role == TableRole::Group
+                           ? has_any(OneCellFirst, OneCellOther, OneCellOfTwo, TwoCells, Undivided)
+                           : role != TableRole::Total || has_any(TotalWord, SumAbove, SumBelow);
+  return is_kept ? role : TableRole::Data;
 }
 
 std::vector<std::string_view> reasons_for(JudgedLine const& line, TableRole const role,

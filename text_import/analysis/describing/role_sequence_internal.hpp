@@ -60,6 +60,10 @@ struct RoleSequence {
 [[nodiscard]] RoleSequence best_roles(std::vector<JudgedLine> const& lines, bool sees_end,
                                       std::vector<RoleSet> const& allowed);
 
+/// The role that is told of a line: a group is a heading of a cell or two, and something has to
+/// speak of a sum, as neither is read as data; others are data.
+[[nodiscard]] TableRole told_role(JudgedLine const& line, TableRole role) noexcept;
+
 /// What speaks most for the one role of a line and against the other: at most three sentences.
 [[nodiscard]] std::vector<std::string_view> reasons_for(JudgedLine const& line, TableRole role,
                                                         TableRole rival);

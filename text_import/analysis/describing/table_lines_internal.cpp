@@ -34,8 +34,8 @@ bool is_comment(view const line, textio::parser::options const& parsing) {
          line.starts_with(parsing.comment_style.front());
 }
 
-/// A number with something around it that is no part of numbers: "(800.10)", "7856 b", "12.5*". A
-/// letter stands apart from it: "5s" is no number.
+/// A number with something around it that is no part of numbers: "(800.10)", "7856 b", "12.5*",
+/// "20G". Other letters stand apart from it: "5s" is no number.
 bool is_decorated_number(view text) {
   std::size_t const start = text.find_first_not_of(u"($<>~+-\u20AC\u00A3 ");
   if (start == view::npos || !textio::platform::is_digit(text[start])) {
@@ -47,7 +47,8 @@ bool is_decorated_number(view text) {
   char16_t last = 0;
   for (char16_t const c : text) {
     bool const is_digit = textio::platform::is_digit(c);
-    if (textio::platform::is_letter(c) && textio::platform::is_digit(last)) {
+    bool const is_size = view(u"KMGT").find(c) != view::npos;
+    if (textio::platform::is_letter(c) && textio::platform::is_digit(last) && !is_size) {
       return false;
     }
     digits += is_digit ? 1U : 0U;
@@ -122,14 +123,26 @@ void TableLines::add_record(std::size_t const record, std::size_t const end) {
 
 void TableLines::add_cells(TableLine& line) {
   auto const fields = reading_.strategy->field_array()->record(line.record);
-  bool const is_one = line.num_fields <= 1 || fields.empty();
-  if (is_one) {  // of fixed width too, where the columns would cut the line anywhere
-    add_cell(line, index_[line.line]);
+  if (line.num_fields <= 1 || fields.empty()) {
+    add_pieces(line);
     return;
   }
   for (std::size_t i = 0; i < std::min(fields.size(), columns_seen_ + 1); ++i) {
     add_cell(line, fields[i].view());
   }
+}
+
+/// The one field of a line. Where columns of fixed width would cut it anywhere, the pieces between
+/// wide gaps.
+void TableLines::add_pieces(TableLine& line) {
+  view rest = trimmed(index_[line.line]);
+  bool const is_fixed = reading_.layout == Layout::FixedWidth;
+  for (std::size_t gap = is_fixed ? rest.find(u"  ") : view::npos; gap != view::npos;
+       gap = rest.find(u"  ")) {
+    add_cell(line, rest.substr(0, gap));
+    rest = trimmed(rest.substr(gap));
+  }
+  add_cell(line, rest);
 }
 
 void TableLines::add_cell(TableLine& line, view const field) {

@@ -68,6 +68,7 @@ class TableLines {
  private:
   void add_record(std::size_t record, std::size_t end);
   void add_cells(TableLine& line);
+  void add_pieces(TableLine& line);
   void add_cell(TableLine& line, std::u16string_view field);
 
   Reading const& reading_;
