@@ -10,6 +10,7 @@
 
 #include "tests/support/table.hpp"
 #include "tests/support/text.hpp"
+#include "text_import/analysis/describing/line_features_internal.hpp"
 #include "text_import/analysis/describing/role_weights_internal.hpp"
 #include "text_import/format/utf.hpp"
 #include "text_import/format/words.hpp"

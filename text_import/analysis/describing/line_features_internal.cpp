@@ -143,8 +143,9 @@ class LineJudge {
     bool const are_years = m.numbers > 0 && m.years == m.numbers;
     add(are_years, AllYears);
     add(m.steps_up >= 2 && m.counts_up, CountsUp);
-    add(are_years && (measurer_.years() - m.years) * 10 > measurer_.numbers() - m.numbers,
-        YearsAreUsual);
+    bool const are_usual = (measurer_.years() - m.years) * 10 > measurer_.numbers() - m.numbers;
+    add(are_years && are_usual, YearsAreUsual);
+    add(are_years && !are_usual && m.numbers > 1 && m.agreements > 0, YearRow);
     add(m.year_texts > 1, YearTexts);
     add(m.has_decimals, Decimals);
   }

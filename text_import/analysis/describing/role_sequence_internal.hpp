@@ -3,37 +3,15 @@
 // The roles of all lines of a table, decided together: the best of all sequences that are possible.
 #pragma once
 
-#include <array>
-#include <cstddef>
 #include <cstdint>
 #include <limits>
 #include <string_view>
 #include <vector>
 
 #include "text_import/analysis/describing/line_features_internal.hpp"
+#include "text_import/analysis/describing/table_roles_internal.hpp"
 
 namespace textimport::analysis {
-
-/// The roles among which the weights decide, in the order in which they stand in a text: titles and
-/// then names above the data; data, groups and totals in any order; notes below.
-enum class TableRole : std::uint8_t { Title, Names, Data, Group, Total, Note };
-
-inline constexpr std::size_t num_table_roles = 6;
-
-/// Weights are whole sixteenths.
-using RoleScores = std::array<std::int32_t, num_table_roles>;
-
-/// One bit for each role that a line may have.
-using RoleSet = std::uint8_t;
-
-[[nodiscard]] constexpr RoleSet set_of(TableRole const role) noexcept {
-  return static_cast<RoleSet>(1U << static_cast<unsigned>(role));
-}
-
-inline constexpr RoleSet above_roles = set_of(TableRole::Title) | set_of(TableRole::Names);
-inline constexpr RoleSet body_roles =
-    set_of(TableRole::Data) | set_of(TableRole::Group) | set_of(TableRole::Total);
-inline constexpr RoleSet all_roles = above_roles | body_roles | set_of(TableRole::Note);
 
 /// How much worse a sequence is that no sequence is worse than.
 inline constexpr std::int32_t no_doubt = std::numeric_limits<std::int32_t>::max();

@@ -6,7 +6,7 @@
 
 #include <array>
 
-#include "text_import/analysis/describing/role_sequence_internal.hpp"
+#include "text_import/analysis/describing/table_roles_internal.hpp"
 
 namespace textimport::analysis {
 
