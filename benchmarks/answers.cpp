@@ -6,8 +6,8 @@
 // "header_lines" (the line, from 0, of the first data), "data_ends_at" (the line behind the last,
 // null: the sample ends before them), "num_columns", "names" (null: none), "types",
 // "type_certainties", "decimal_mark", "escape", "encoding", "roles" (of lines that hold no data, by
-// their numbers), "decided", "confidence", and "seconds" for opening, decoding and analysing, the
-// median of RUNS (1 unless given). tools/accuracy and tools/compare run it.
+// their numbers), "decided", "table_decided", "confidence", and "seconds" for opening, decoding and
+// analysing, the median of RUNS (1 unless given). tools/accuracy and tools/compare run it.
 #include <algorithm>
 #include <charconv>
 #include <chrono>
@@ -116,6 +116,7 @@ ordered_json answer_about(std::string const& path) {
       {"encoding", format.source.encoding},
       {"roles", roles_of(found)},
       {"decided", found.decided},
+      {"table_decided", found.table_decided},
       {"confidence", found.certainty.layout}};
 }
 

@@ -94,6 +94,25 @@ void check_rules(Arguments const& arguments, Request const& request) {
   }
 }
 
+/// Lines of names and of data that would be in each other's place.
+void check_lines(Arguments const& arguments, Request const& request) {
+  std::size_t const first = request.header_lines.value_or(0);
+  bool const has_names = request.name_lines && !request.name_lines->empty();
+  std::size_t const last_name = has_names ? request.name_lines->back() : 0;
+  if (has_names && request.header_lines && last_name >= first) {
+    refuse(typed(arguments, Option::Names), typed(arguments, Option::HeaderLines),
+           "names stand above the data");
+  }
+  if (request.last_line && request.header_lines && *request.last_line < first) {
+    refuse(typed(arguments, Option::LastLine), typed(arguments, Option::HeaderLines),
+           "the data would end before they begin");
+  }
+  if (request.last_line && has_names && *request.last_line <= last_name) {
+    refuse(typed(arguments, Option::LastLine), typed(arguments, Option::Names),
+           "names stand above the data");
+  }
+}
+
 void check_counts(Arguments const& arguments, Request const& request) {
   bool const lines = request.layout == Layout::Lines;
   if (lines && request.header_lines.value_or(0) > 0) {
@@ -217,6 +236,7 @@ void check_output(Arguments const& arguments) {
 void check_contradictions(Arguments const& arguments, Request const& request) {
   check_layout(arguments, request);
   check_rules(arguments, request);
+  check_lines(arguments, request);
   check_counts(arguments, request);
   check_marks(arguments, request);
   check_escape(arguments, request);

@@ -75,7 +75,7 @@ int answer_file(std::string const& path, Task const& task, Renderer const& rende
       write_message(violation_message(path, *answer.analysis.violation));
       return exit_code::failed;
     }
-    return answer.analysis.decided ? exit_code::decided : exit_code::undecided;
+    return answer.analysis.table_decided ? exit_code::decided : exit_code::undecided;
   } catch (textimport::ImportError const& error) {
     write_message(textimport::display_bytes(error.what()).utf8);
     if (task.output == Output::Json) {

@@ -56,6 +56,10 @@ constexpr std::array option_table{
                "Cut the lines into columns of these widths, in UTF-16 code units."},
     OptionSpec{Option::HeaderLines, Section::Layout, 0, "header-lines", "N", none, false,
                "Take this many lines as the header, or find it out with \"auto\". Default: auto."},
+    OptionSpec{Option::Names, Section::Layout, 0, "names", "N,N,...", none, false,
+               "Take the names of the columns from these lines, counted from 1, or \"none\"."},
+    OptionSpec{Option::LastLine, Section::Layout, 0, "last-line", "N", none, false,
+               "Let the data end with this line, counted from 1."},
     OptionSpec{Option::Columns, Section::Layout, 'c', "columns", "N", none, false,
                "Expect this many columns: prefer what has them, and call an answer with another "
                "number not decided."},

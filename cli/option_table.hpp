@@ -36,6 +36,8 @@ enum class Option : std::uint8_t {
   Delimiter,
   Widths,
   HeaderLines,
+  Names,
+  LastLine,
   Columns,
   ExcludeDelimiter,
   Format,

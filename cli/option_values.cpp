@@ -86,18 +86,40 @@ std::size_t size_value(Option const option, std::string_view const word, std::si
   return *value * unit;
 }
 
-std::vector<std::size_t> widths_value(Option const option, std::string_view const word) {
-  std::vector<std::size_t> widths;
+namespace {
+
+/// Counts of at least 1, apart by commas; empty for anything else.
+std::vector<std::size_t> counts_in(std::string_view const word) {
+  std::vector<std::size_t> counts;
   for (std::size_t start = 0; start <= word.size();) {
     auto const end = std::min(word.find(',', start), word.size());
-    auto const width = number(word.substr(start, end - start), 10);
-    if (!width || *width == 0) {
-      refuse_value(option, word, "widths of at least 1, apart by commas, such as 8,12,6");
+    auto const count = number(word.substr(start, end - start), 10);
+    if (!count || *count == 0) {
+      return {};
     }
-    widths.push_back(*width);
+    counts.push_back(*count);
     start = end + 1;
   }
+  return counts;
+}
+
+}  // namespace
+
+std::vector<std::size_t> widths_value(Option const option, std::string_view const word) {
+  auto widths = counts_in(word);
+  if (widths.empty()) {
+    refuse_value(option, word, "widths of at least 1, apart by commas, such as 8,12,6");
+  }
   return widths;
+}
+
+std::vector<std::size_t> lines_value(Option const option, std::string_view const word) {
+  auto lines = counts_in(word);
+  if (lines.empty() || !std::ranges::is_sorted(lines, std::ranges::less_equal())) {
+    refuse_value(option, word,
+                 "lines from 1 on, ascending and apart by commas, such as 3,4, or \"none\"");
+  }
+  return lines;
 }
 
 std::u16string text_value(Option const option, std::string_view const word) {

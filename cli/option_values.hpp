@@ -26,6 +26,9 @@ namespace cli {
 /// One or more column widths, apart by commas.
 [[nodiscard]] std::vector<std::size_t> widths_value(Option option, std::string_view word);
 
+/// Numbers of lines from 1 on, each larger than the one before.
+[[nodiscard]] std::vector<std::size_t> lines_value(Option option, std::string_view word);
+
 /// Text of at least one code unit, with its escapes resolved.
 [[nodiscard]] std::u16string text_value(Option option, std::string_view word);
 

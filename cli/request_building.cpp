@@ -100,6 +100,17 @@ void take_layout(Arguments const& arguments, Task& task) {
           count_value(Option::HeaderLines, word, 0, largest_count, ", or \"auto\"");
     }
   });
+  with_value(arguments, Option::Names, [&](std::string const& word) {
+    request.name_lines.emplace();
+    if (word != "none") {
+      for (std::size_t const line : lines_value(Option::Names, word)) {
+        request.name_lines->push_back(line - 1);
+      }
+    }
+  });
+  with_value(arguments, Option::LastLine, [&](std::string const& word) {
+    request.last_line = count_value(Option::LastLine, word, 1, largest_count) - 1;
+  });
   with_value(arguments, Option::Columns, [&](std::string const& word) {
     request.num_columns = count_value(Option::Columns, word, 1, largest_count);
   });

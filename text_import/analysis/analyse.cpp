@@ -111,8 +111,11 @@ class Analyst {
     found_.format = std::move(said.format);
     Evidence& evidence = found_.evidence;
     evidence.lines = std::move(said.lines);
+    evidence.line_reasons = std::move(said.line_reasons);
     evidence.columns = std::move(said.columns);
     found_.certainty.columns = std::move(said.column_certainties);
+    evidence.open_parts = std::move(said.open_parts);
+    table_certainty_ = said.table_certainty;
     evidence.units_left_over = said.units_left_over;
     evidence.repeated_names = std::move(said.repeated_names);
     evidence.lines_seen = found_.lines.count();
@@ -134,6 +137,8 @@ class Analyst {
     } else if (is_unsure()) {
       doubt(Reason::Unsure);
     }
+    found_.certainty.table = found_.certainty.layout * table_certainty_;
+    found_.table_decided = found_.decided && found_.evidence.open_parts.empty();
   }
 
   void doubt(Reason const reason) {
@@ -201,6 +206,7 @@ class Analyst {
   CollectedReadings collected_;
   Weighing weighed_;
   bool start_is_missing_ = false;
+  double table_certainty_ = 1;
   Analysis found_;
 };
 

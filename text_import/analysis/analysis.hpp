@@ -25,6 +25,9 @@ struct Analysis {
   Certainty certainty;
   /// False when the Format is a guess: the caller should ask.
   bool decided = true;
+  /// Whether a reader can use the table as it is: the layout is decided, and nothing stands in
+  /// Evidence::open_parts.
+  bool table_decided = true;
   Reason reason = Reason::NoRecords;
   /// The first record of the data that breaks a rule which the request sets to Error.
   std::optional<Violation> violation;

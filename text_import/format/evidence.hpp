@@ -80,6 +80,13 @@ struct NotedLine {
   friend bool operator==(NotedLine const&, NotedLine const&) = default;
 };
 
+/// Why a line is what it is. The sentences are constants, the weightiest first.
+struct LineReasons {
+  std::size_t line = 0;  ///< physical line, from 0
+  LineRole role = LineRole::Title;
+  std::vector<std::string_view> reasons;
+};
+
 /// Counts of one column, in the sampled records of the data.
 struct ColumnEvidence {
   std::size_t values = 0;         ///< fields that hold a value: not empty, no word for missing
@@ -116,6 +123,9 @@ struct Certainty {
   std::vector<double> columns;
 };
 
+/// What a reader of the table goes by beside the layout.
+enum class TablePart : std::uint8_t { FirstLine, LastLine, Names };
+
 /// The reading that would be the answer if there were no winner.
 struct RunnerUp {
   std::size_t candidate = 0;  ///< position in Evidence::candidates
@@ -130,9 +140,14 @@ struct Evidence {
   std::optional<std::size_t> winner;  ///< empty when each line is a value
   std::optional<RunnerUp> runner_up;
 
-  /// The lines above and below the data, ascending.
+  /// The lines above and below the data, and groups and totals between them, ascending.
   std::vector<NotedLine> lines;
+  /// Of those lines, and of the first and the last of the data, ascending; a blank line, a ruler
+  /// and a comment need no reasons.
+  std::vector<LineReasons> line_reasons;
   std::vector<ColumnEvidence> columns;  ///< one for each column of the Format
+  /// The parts of the table that may as well be others, ascending.
+  std::vector<TablePart> open_parts;
 
   std::size_t lines_seen = 0;       ///< physical lines of the sample
   std::size_t records_sampled = 0;  ///< lines above the data are among them

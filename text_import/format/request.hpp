@@ -54,6 +54,10 @@ struct Request {
   std::optional<std::size_t> num_columns;  ///< how many are expected
   /// The data begin behind that many lines.
   std::optional<std::size_t> header_lines;
+  /// The lines that hold names, from 0 and ascending; an empty list: there are none.
+  std::optional<std::vector<std::size_t>> name_lines;
+  /// The last line of the data, from 0.
+  std::optional<std::size_t> last_line;
 
   std::optional<char16_t> quote;  ///< 0: no field is quoted
   /// What takes the meaning of a delimiter or quote behind it; 0: nothing does.

@@ -96,6 +96,12 @@ constexpr std::array<Word<LineRole>, 12> line_role_words{{
     {LineRole::Footer, "footer"},
 }};
 
+constexpr std::array<Word<TablePart>, 3> table_part_words{{
+    {TablePart::FirstLine, "first-line"},
+    {TablePart::LastLine, "last-line"},
+    {TablePart::Names, "names"},
+}};
+
 constexpr std::array<Word<Reason>, 10> reason_words{{
     {Reason::NoRecords, "no-records"},
     {Reason::Given, "given"},
@@ -200,6 +206,11 @@ std::span<Word<EpochUnit> const> all_words<EpochUnit>() noexcept {
 template <>
 std::span<Word<LineRole> const> all_words<LineRole>() noexcept {
   return line_role_words;
+}
+
+template <>
+std::span<Word<TablePart> const> all_words<TablePart>() noexcept {
+  return table_part_words;
 }
 
 template <>

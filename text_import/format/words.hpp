@@ -53,6 +53,8 @@ TEXT_IMPORT_API std::span<Word<EpochUnit> const> all_words<EpochUnit>() noexcept
 template <>
 TEXT_IMPORT_API std::span<Word<LineRole> const> all_words<LineRole>() noexcept;
 template <>
+TEXT_IMPORT_API std::span<Word<TablePart> const> all_words<TablePart>() noexcept;
+template <>
 TEXT_IMPORT_API std::span<Word<Reason> const> all_words<Reason>() noexcept;
 template <>
 TEXT_IMPORT_API std::span<Word<BrokenRule> const> all_words<BrokenRule>() noexcept;

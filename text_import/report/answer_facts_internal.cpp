@@ -151,6 +151,21 @@ void add_confidence(FactLines& facts, Analysis const& analysis) {
   }
 }
 
+void add_open_parts(FactLines& facts, Analysis const& analysis) {
+  auto const& open = analysis.evidence.open_parts;
+  if (!analysis.decided || open.empty()) {
+    return;
+  }
+  std::vector<std::string_view> texts;
+  for (TablePart const part : open) {
+    texts.push_back(part == TablePart::FirstLine  ? "where the data begin"
+                    : part == TablePart::LastLine ? "where the data end"
+                                                  : "which lines hold names");
+  }
+  facts.add("open", fmt::format("{}; {} sure of the table", fmt::join(texts, ", "),
+                                share_text(analysis.certainty.table.value_or(0))));
+}
+
 void add_candidates(FactLines& facts, Analysis const& analysis) {
   constexpr std::size_t most = 3;
   constexpr std::size_t indent = 9;

@@ -16,6 +16,9 @@ void add_layout(FactLines& facts, Analysis const& analysis);
 /// How sure the answer is; nothing where that was not weighed.
 void add_confidence(FactLines& facts, Analysis const& analysis);
 
+/// The parts of the table that are not decided; nothing where the layout is not.
+void add_open_parts(FactLines& facts, Analysis const& analysis);
+
 /// What else the text may be, for someone who has to decide; nothing for an answer that is decided.
 void add_candidates(FactLines& facts, Analysis const& analysis);
 

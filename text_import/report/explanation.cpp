@@ -6,6 +6,7 @@
 #include "text_import/report/answer_facts_internal.hpp"
 #include "text_import/report/engine_story_internal.hpp"
 #include "text_import/report/headings_internal.hpp"
+#include "text_import/report/noted_lines_internal.hpp"
 #include "text_import/report/reading_words_internal.hpp"
 #include "text_import/report/reasons_internal.hpp"
 #include "text_import/report/report.hpp"
@@ -31,11 +32,13 @@ std::string explanation(Analysis const& analysis, ReportSubject const& subject,
   FactLines facts(style.width);
   facts.add("answer", answer_text(analysis));
   reporting::add_confidence(facts, analysis);
+  reporting::add_open_parts(facts, analysis);
   facts.add("why", reporting::why(analysis));
   std::string text = reporting::title_line(subject, style.colors) + facts.text();
   if (analysis.reason != Reason::EngineDecided) {
     text += reporting::weighing_story(analysis.evidence, style);
   }
+  text += reporting::line_story(analysis.evidence, style);
   if (analysis.engine) {
     text += reporting::engine_story(analysis.lines.text(), *analysis.engine, style);
   }

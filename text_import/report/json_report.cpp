@@ -94,6 +94,7 @@ void write_evidence(JsonWriter& writer, Analysis const& analysis, ReportSubject 
   write_runner_up(writer, evidence);
   write_member(writer, "units_left_over", evidence.units_left_over);
   write_member(writer, "repeated_names", evidence.repeated_names);
+  write_member(writer, "open_parts", evidence.open_parts);
   writer.key("engine");
   if (analysis.engine) {
     write_engine_answer(writer, *analysis.engine);
@@ -124,6 +125,7 @@ void write_warning(JsonWriter& writer, std::string_view const sentence) {
 void begin_report(JsonWriter& writer, Analysis const& analysis, ReportSubject const& subject) {
   begin_object_about(writer, subject.path);
   write_member(writer, "decided", analysis.decided);
+  write_member(writer, "table_decided", analysis.table_decided);
   write_member(writer, "reason", analysis.reason);
   writer.key("certainty");
   write_certainty(writer, analysis.certainty);

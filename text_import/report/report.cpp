@@ -41,6 +41,7 @@ std::string report(Analysis const& analysis, ReportSubject const& subject,
   FactLines answer(style.width);
   reporting::add_layout(answer, analysis);
   reporting::add_confidence(answer, analysis);
+  reporting::add_open_parts(answer, analysis);
   answer.add("why", reporting::why(analysis));
   reporting::add_candidates(answer, analysis);
   std::string const rows = reporting::first_rows(analysis, style);

@@ -10,6 +10,8 @@
 
 #include "tests/support/table.hpp"
 #include "tests/support/text.hpp"
+#include "text_import/analysis/describing/line_features_internal.hpp"
+#include "text_import/analysis/describing/role_weights_internal.hpp"
 #include "text_import/format/utf.hpp"
 #include "text_import/format/words.hpp"
 
@@ -51,6 +53,10 @@ Request request_of(json const& said) {
       request.num_columns = value;
     } else if (member == "header_lines") {
       request.header_lines = value;
+    } else if (member == "last_line") {
+      request.last_line = value;
+    } else if (member == "name_lines") {
+      request.name_lines = value.get<std::vector<std::size_t>>();
     } else if (member == "quote") {
       request.quote = one(value);
     } else if (member == "escape") {
@@ -155,6 +161,38 @@ TEST(analysis, of_the_same_file_with_its_own_format_is_the_same) {
   });
 }
 
+/// One letter a line, "d" for those of which nothing is noted, and "S" for sums.
+std::string show_roles(Analysis const& found) {
+  std::string roles(found.lines.count(), 'd');
+  for (NotedLine const& noted : found.evidence.lines) {
+    roles[noted.line] = noted.role == LineRole::Total ? 'S' : word_of(noted.role).front();
+  }
+  return roles;
+}
+
+TEST(analysis, tells_the_roles_of_lines) {
+  support::for_each_row("text_import/analysis/line_roles.tsv", [](Row const& row) {
+    std::u16string const text = row.text(0);
+    Analysis const found = analyse_text(text, request_of(row.value(1)));
+    EXPECT_EQ(row.cells[2], show_roles(found));
+    std::string names;
+    for (Column const& column : found.format.columns) {
+      names += has_names(found.format) ? "|" + support::show(column.name) : "";
+    }
+    EXPECT_EQ(row.cells[3], names);
+    std::string open;
+    for (TablePart const part : found.evidence.open_parts) {
+      open += std::string(word_of(part)) + " ";
+    }
+    EXPECT_EQ(row.cells[4], open);
+    EXPECT_EQ(found.table_decided, found.decided && open.empty());
+  });
+}
+
+TEST(analysis, weighs_each_feature_of_a_line) {
+  EXPECT_EQ(analysis::num_line_features, analysis::role_weights.size());
+}
+
 TEST(analysis, tells_where_a_rule_is_broken) {
   support::for_each_row("text_import/analysis/violations.tsv", [](Row const& row) {
     std::u16string const text = row.text(0);
@@ -178,7 +216,7 @@ TEST(analysis, makes_names_unique) {
   for (Column const& column : found.format.columns) {
     names += support::show(column.name) + "=" + support::show(column.unique_name) + " ";
   }
-  EXPECT_EQ("=c1 =c2 =c3 =c4 =c5 =c6 ", names) << "a line with an empty cell is no line of names";
+  EXPECT_EQ("a=a b=b a=a_3 =c4 a_2=a_2 a=a_4 ", names);
   Analysis const named = analyse_text(u"a,b,a,a_2,a\n1,2,3,4,5\n7,8,9,1,2\n4,5,6,7,8\n", {});
   names.clear();
   for (Column const& column : named.format.columns) {

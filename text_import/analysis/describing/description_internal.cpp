@@ -29,45 +29,6 @@ Origin given_or(bool const is_given, Origin const otherwise) {
   return is_given ? Origin::Given : otherwise;
 }
 
-/// The records from the given physical line on are the data, of which there are some.
-HeaderRows rows_behind(Reading const& r, std::size_t const first_line) {
-  auto const first = std::ranges::find_if(
-      r.records, [&](RecordPlace const& record) { return record.line >= first_line; });
-  std::size_t const last = r.records.size() - 1;
-  return {std::min(static_cast<std::size_t>(first - r.records.begin()), last),
-          std::max(r.block.last, last), std::nullopt};
-}
-
-/// The data end in front of the given line.
-void end_rows_before(HeaderRows& rows, Reading const& r, std::size_t const end) {
-  while (rows.last_data > rows.first_data && r.records[rows.last_data].line >= end) {
-    --rows.last_data;
-  }
-}
-
-/// The names stand in these lines, of which the first is looked at.
-void set_name_rows(HeaderRows& rows, Reading const& r, std::vector<std::size_t> const& lines) {
-  rows.has_no_names = lines.empty();
-  if (lines.empty()) {
-    return;
-  }
-  auto const names = std::ranges::find(r.records, lines.front(), &RecordPlace::line);
-  if (names != r.records.end() && names->num_fields > 0) {
-    rows.names = static_cast<std::size_t>(names - r.records.begin());
-  }
-}
-
-HeaderRows rows_of(Reading const& r, GivenRegion const& given) {
-  HeaderRows rows = given.first ? rows_behind(r, *given.first) : find_header_rows(r);
-  if (given.end) {
-    end_rows_before(rows, r, *given.end);
-  }
-  if (given.name_lines) {
-    set_name_rows(rows, r, *given.name_lines);
-  }
-  return rows;
-}
-
 bool has_blanks_around(Reading const& r, HeaderRows const& rows) {
   auto const& fields = *r.strategy->field_array();
   for (std::size_t i = rows.first_data; i <= rows.last_data; ++i) {
@@ -88,8 +49,9 @@ class Describer {
     format().source = task.source;
     bool const is_given = task.request.header_lines || task.request.format;
     format().region.start.origin = given_or(is_given, Origin::Found);
-    format().region.end.origin = given_or(task.request.format.has_value(), Origin::Found);
-    format().region.names_origin = format().region.end.origin;
+    bool const is_saved = task.request.format.has_value();
+    format().region.end.origin = given_or(is_saved || task.request.last_line, Origin::Found);
+    format().region.names_origin = given_or(is_saved || task.request.name_lines, Origin::Found);
   }
 
   Description describe_table(Reading const& r, Hypothesis const& hypothesis) {
@@ -221,8 +183,21 @@ class Describer {
   }
 
   void describe_rows(Reading const& r) {
-    HeaderRows const rows = rows_of(r, given_);
-    auto around = look_around(r, rows, lines_);
+    bool const sees_end = !task_.goes_on && r.records.size() < task_.request.records;
+    LineRoles around = decide_roles(r, lines_, given_, sees_end);
+    if (around.num_columns > r.block.columns) {
+      Reading wider = r;
+      wider.block.columns = around.num_columns;
+      describe_lines_of(wider, decide_roles(wider, lines_, given_, sees_end), sees_end);
+    } else {
+      describe_lines_of(r, std::move(around), sees_end);
+    }
+  }
+
+  void describe_lines_of(Reading const& r, LineRoles around, bool const sees_end) {
+    HeaderRows const& rows = around.rows;
+    said_.table_certainty = around.certainty;
+    said_.open_parts = std::move(around.open_parts);
     if (r.layout == Layout::Delimited && !lines_.held_of(u" ").empty()) {
       format().layout.has_blanks_around_delimiters = has_blanks_around(r, rows);
     }
@@ -233,7 +208,9 @@ class Describer {
     format().region.first_line = around.data_starts_at;
     place(r, around.data_ends_at);
     said_.lines = std::move(around.lines);
-    bool const sees_end = !task_.goes_on && r.records.size() < task_.request.records;
+    said_.line_reasons = std::move(around.reasons);
+    format().region.group_lines = std::move(around.group_lines);
+    format().region.total_lines = std::move(around.total_lines);
     if (sees_end || given_.end) {
       format().region.end_line = given_.end.value_or(around.data_ends_at);
     } else {
@@ -290,6 +267,10 @@ class Describer {
   [[nodiscard]] std::size_t first_of_list() const {
     if (given_.first) {
       return *given_.first;
+    }
+    if (given_.name_lines) {
+      return given_.name_lines->empty() ? 0
+                                        : std::min(given_.name_lines->back() + 1, lines_.count());
     }
     if (lines_.count() < 2) {
       return 0;

@@ -20,9 +20,13 @@ namespace textimport::analysis {
 struct Description {
   Format format;
   std::vector<NotedLine> lines;
+  std::vector<LineReasons> line_reasons;
   std::vector<ColumnEvidence> columns;
   std::vector<double> column_certainties;
   std::size_t units_left_over = 0;
+  /// How sure first line, last line and names are, 0 to 1, if the layout is right.
+  double table_certainty = 1;
+  std::vector<TablePart> open_parts;
   std::vector<std::u16string> repeated_names;
   /// The caller names the line behind which the data begin, and there is none like it.
   bool start_is_missing = false;

@@ -1,207 +1,256 @@
 // SPDX-License-Identifier: MIT
+//
+// The lines that hold something get their roles together; blank lines, rulers and comments are what
+// they are wherever they stand.
 #include "text_import/analysis/describing/line_roles_internal.hpp"
 
 #include <algorithm>
 #include <optional>
-#include <span>
 
-#include "text_format_detection/model/field_array.hpp"
+#include "text_import/analysis/describing/line_features_internal.hpp"
+#include "text_import/analysis/describing/name_rows_internal.hpp"
+#include "text_import/analysis/describing/role_sequence_internal.hpp"
+#include "text_import/analysis/describing/table_lines_internal.hpp"
 #include "text_import/analysis/values/text_internal.hpp"
-#include "text_import/analysis/values/value_shape_internal.hpp"
-#include "text_import/splitting/record_splitter_internal.hpp"
-#include "text_import/splitting/rulers_internal.hpp"
 
 namespace textimport::analysis {
 
 namespace {
 
-using view = std::u16string_view;
+// Below this a part of the table may as well be another.
+constexpr double decided_from = 0.6;
 
-bool is_ruler(view const line) {
-  view const text = trimmed(line);
-  return splitting::is_ruler(text) ||
-         (text.size() >= 3 && text.find_first_not_of(u"-=_+|:;,*~# \t") == view::npos &&
-          text.find_first_of(u"-=_*~") != view::npos);
+bool holds(std::vector<std::size_t> const& lines, std::size_t const line) {
+  return std::ranges::find(lines, line) != lines.end();
 }
 
-bool is_separator_line(view const line) {
-  return line.size() >= 4 && (line.starts_with(u"sep=") || line.starts_with(u"SEP="));
-}
-
-bool is_comment(view const line, textio::parser::options const& parsing) {
-  return !parsing.comment_style.empty() && !parsing.comment_style.front().empty() &&
-         line.starts_with(parsing.comment_style.front());
-}
-
-/// The text of a field as a name: unquoted, doubled quotes made single ones, without escapes.
-std::u16string name_of_field(view const field, Reading const& r) {
-  view const name = unquoted(field, r.quote);
-  bool const was_quoted = r.quote != 0 && trimmed(field).starts_with(r.quote);
-  char16_t const escape = r.syntax.escape;
-  auto plain = was_quoted ? with_single_quotes(name, r.quote, escape) : std::u16string(name);
-  return escape == 0 ? plain
-                     : without_escapes(plain, escape, r.quote, r.strategy->options().delimiters);
-}
-
-/// The line without a comment marker in front of it, of whatever kind.
-view without_marker(view const line) {
-  std::size_t const first = line.find_first_not_of(u"#%!;*/ \t");
-  return first == view::npos ? view() : line.substr(first);
-}
-
-/// The fields of a text that is one record, read as the table is.
-std::vector<std::u16string> split_line(Reading const& r, view const line) {
-  textio::FieldArray fields;
-  auto options = r.strategy->options();
-  options.comment_style.clear();
-  splitting::read_records(options, r.strategy->mode(), r.syntax, line, 1, fields);
-  std::vector<std::u16string> texts;
-  for (textio::Field const& field : fields.fields()) {
-    texts.push_back(name_of_field(field.view(), r));
+/// The roles that a line may have by what is given.
+RoleSet allowed_roles(GivenRegion const& given, std::size_t const line) {
+  RoleSet roles = all_roles;
+  if (given.first) {
+    roles &= line < *given.first ? above_roles : static_cast<RoleSet>(all_roles & ~above_roles);
   }
-  return texts;
-}
-
-bool are_names(std::vector<std::u16string> const& cells) {
-  ValueGrammar const usual(0, {});  // quotes are taken off, and nobody says how names are written
-  return std::ranges::all_of(cells, [&usual](std::u16string const& cell) {
-    ValueShape const shape = usual.look_at(cell).shape;
-    return shape == ValueShape::Word || shape == ValueShape::Phrase;
-  });
-}
-
-/// Names in a line above the table that is no record of it, such as a commented one.
-std::optional<std::vector<std::u16string>> names_above(Reading const& r, view const line) {
-  for (view const text : {line, without_marker(line)}) {
-    auto cells = split_line(r, text);
-    if (cells.size() == r.block.columns && are_names(cells)) {
-      return cells;
-    }
+  if (given.end) {
+    RoleSet const note = set_of(TableRole::Note);
+    roles &= line < *given.end ? static_cast<RoleSet>(all_roles & ~note) : note;
   }
-  return std::nullopt;
+  if (given.name_lines) {
+    RoleSet const names = set_of(TableRole::Names);
+    bool const may_be_units = !given.name_lines->empty() && line > given.name_lines->back();
+    RoleSet const others = may_be_units ? all_roles : static_cast<RoleSet>(all_roles & ~names);
+    roles &= holds(*given.name_lines, line) ? names : others;
+  }
+  return roles;
 }
 
-/// Names each line above the data.
+LineRole role_of(TableRole const role) {
+  switch (role) {
+    case TableRole::Title:
+      return LineRole::Title;
+    case TableRole::Names:
+      return LineRole::Names;
+    case TableRole::Data:
+      return LineRole::Data;
+    case TableRole::Group:
+      return LineRole::Group;
+    case TableRole::Total:
+      return LineRole::Total;
+    case TableRole::Note:
+      break;
+  }
+  return LineRole::Footer;
+}
+
+LineRole role_of(LineKind const kind) {
+  switch (kind) {
+    case LineKind::Ruler:
+      return LineRole::Ruler;
+    case LineKind::Comment:
+      return LineRole::Comment;
+    case LineKind::Separator:
+      return LineRole::Separator;
+    default:
+      return LineRole::Blank;
+  }
+}
+
 class RoleReader {
  public:
-  RoleReader(Reading const& r, HeaderRows const& rows, LineIndex const& lines)
-      : reading_(r), rows_(rows), lines_(lines) {}
+  RoleReader(Reading const& r, LineIndex const& lines, GivenRegion const& given,
+             bool const sees_end)
+      : index_(lines), given_(given), sees_end_(sees_end), table_(r, lines) {}
 
-  Surroundings run() {
+  LineRoles run() {
+    decide();
     place_data();
     note_names();
-    for (std::size_t line = 0; line < found_.data_starts_at; ++line) {
-      found_.lines.push_back({line, role_above(line)});
-    }
-    for (std::size_t line = found_.data_ends_at; line < lines_.count(); ++line) {
-      found_.lines.push_back({line, role_below(line)});
-    }
+    note_lines();
+    note_reasons();
     return std::move(found_);
   }
 
  private:
+  void decide() {
+    judged_ = judge_lines(table_, sees_end_ || given_.end);
+    std::vector<RoleSet> allowed;
+    for (JudgedLine const& line : judged_) {
+      allowed.push_back(allowed_roles(given_, table_.all()[line.position].line));
+    }
+    best_ = best_roles(judged_, sees_end_ || given_.end, allowed);
+    doubt(TablePart::FirstLine, best_.margins.first_line);
+    doubt(TablePart::LastLine, best_.margins.last_line);
+    doubt(TablePart::Names, best_.margins.names);
+    roles_.resize(table_.all().size());
+    for (std::size_t i = 0; i < judged_.size(); ++i) {
+      roles_[judged_[i].position] = role_of(told_role(judged_[i], best_.roles[i]));
+    }
+  }
+
+  void doubt(TablePart const part, std::int32_t const margin) {
+    double const share = share_right(margin);
+    found_.certainty = std::min(found_.certainty, share);
+    if (share < decided_from) {
+      found_.open_parts.push_back(part);
+    }
+  }
+
+  [[nodiscard]] bool is_body(std::size_t const position) const {
+    auto const& role = roles_[position];
+    return role == LineRole::Data || role == LineRole::Group || role == LineRole::Total;
+  }
+
+  /// The data are the lines from the first of the body to the last.
   void place_data() {
-    auto const& records = reading_.records;
-    found_.data_starts_at = records[rows_.first_data].line;
-    std::size_t const next = rows_.last_data + 1;
-    found_.data_ends_at = next < records.size() ? records[next].line : lines_.count();
-    while (found_.data_ends_at > found_.data_starts_at && is_no_data(found_.data_ends_at - 1)) {
+    auto const& lines = table_.all();
+    std::size_t first = lines.size();
+    std::size_t last = 0;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+      if (is_body(i)) {
+        first = std::min(first, i);
+        last = i;
+      }
+    }
+    if (given_.first) {
+      auto const found = std::ranges::find_if(
+          lines, [&](TableLine const& line) { return line.line >= *given_.first; });
+      first = static_cast<std::size_t>(found - lines.begin());
+    }
+    first = std::min(first, lines.size() - 1);
+    last = std::max(first, last);
+    found_.rows = {lines[first].record, lines[last].record};
+    found_.data_starts_at = lines[first].line;
+    found_.data_ends_at = std::min(lines[last].end, index_.count());
+    while (found_.data_ends_at > found_.data_starts_at &&
+           trimmed(index_[found_.data_ends_at - 1]).empty()) {
       --found_.data_ends_at;
     }
+    first_ = first;
+    last_ = last;
   }
 
-  /// Blank lines and, in a table that has them, rulers.
-  [[nodiscard]] bool is_no_data(std::size_t const line) const {
-    return trimmed(lines_[line]).empty() ||
-           (reading_.syntax.has_rulers && splitting::is_ruler(lines_[line]));
-  }
-
-  /// The names stand in a record of the table, or in the last line above it that is no ruler.
   void note_names() {
-    if (rows_.has_no_names) {
-      return;
-    }
-    if (rows_.names) {
-      first_name_line_ = reading_.records[*rows_.names].line;
-      end_of_names_ = reading_.records[*rows_.names + 1].line;
-      while (end_of_names_ > first_name_line_ + 1 && is_no_data(end_of_names_ - 1)) {
-        --end_of_names_;
+    std::vector<std::size_t> rows;
+    for (std::size_t i = 0; i < first_; ++i) {
+      if (roles_[i] == LineRole::Names) {
+        rows.push_back(i);
       }
-      for (textio::Field const& field : reading_.strategy->field_array()->record(*rows_.names)) {
-        found_.names.push_back(name_of_field(field.view(), reading_));
+    }
+    std::vector<std::size_t> named = rows;
+    if (given_.name_lines) {
+      std::erase_if(named, [this](std::size_t const row) {
+        return !holds(*given_.name_lines, table_.all()[row].line);
+      });
+    }
+    NameRows names;
+    if (!named.empty()) {
+      names = read_names(table_, named, {found_.rows, given_.name_lines.has_value()});
+    } else if (!given_.name_lines) {
+      names = find_commented_names(table_, first_);
+    } else if (!given_.name_lines->empty()) {
+      names = read_commented_names(table_, given_.name_lines->front());
+    }
+    found_.num_columns = std::max(names.num_columns, table_.columns());
+    found_.names = std::move(names.names);
+    for (std::size_t const row : names.rows) {
+      TableLine const& line = table_.all()[row];
+      roles_[row] = LineRole::Names;
+      for (std::size_t at = line.line; at < std::max(line.end, line.line + 1); ++at) {
+        if (!trimmed(index_[at]).empty()) {
+          found_.name_lines.push_back(at);
+        }
       }
-    } else {
-      find_names_above();
     }
-    if (found_.names.empty()) {
-      return;
-    }
-    found_.names.resize(reading_.block.columns);
-    for (std::size_t line = first_name_line_; line < end_of_names_; ++line) {
-      found_.name_lines.push_back(line);
+    for (std::size_t const row : rows) {
+      bool const is_behind = !names.rows.empty() && row > names.rows.back();
+      roles_[row] = is_behind ? LineRole::Units : LineRole::Names;
     }
   }
 
-  void find_names_above() {
-    for (std::size_t line = found_.data_starts_at; line-- > 0;) {
-      view const text = lines_[line];
-      if (trimmed(text).empty() || is_ruler(text)) {
+  void note_lines() {
+    auto const& lines = table_.all();
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+      bool const is_inside = i >= first_ && i <= last_;
+      LineRole const role = roles_[i].value_or(role_of(lines[i].kind));
+      if (is_inside && role != LineRole::Group && role != LineRole::Total) {
         continue;
       }
-      if (auto names = names_above(reading_, text)) {
-        found_.names = std::move(*names);
-        first_name_line_ = line;
-        end_of_names_ = line + 1;
+      note(lines[i], role, is_inside);
+    }
+    // Blank lines at the end belong to no record.
+    std::size_t const seen = found_.lines.empty() ? 0 : found_.lines.back().line + 1;
+    for (std::size_t line = std::max(seen, found_.data_ends_at); line < index_.count(); ++line) {
+      found_.lines.push_back({line, LineRole::Blank});
+    }
+  }
+
+  void note(TableLine const& line, LineRole const role, bool const is_inside) {
+    std::size_t const limit =
+        is_inside || line.line >= found_.data_starts_at ? index_.count() : found_.data_starts_at;
+    for (std::size_t at = line.line; at < std::min(line.end, limit); ++at) {
+      bool const is_blank = trimmed(index_[at]).empty();
+      if (is_inside && (is_blank || at >= found_.data_ends_at)) {
+        break;
       }
-      return;
+      found_.lines.push_back({at, is_blank ? LineRole::Blank : role});
+      if (is_inside) {
+        (role == LineRole::Group ? found_.group_lines : found_.total_lines).push_back(at);
+      }
     }
   }
 
-  [[nodiscard]] bool has_names() const { return !found_.names.empty(); }
-
-  [[nodiscard]] LineRole role_above(std::size_t const line) const {
-    view const text = lines_[line];
-    if (has_names() && line >= first_name_line_ && line < end_of_names_) {
-      return LineRole::Names;
+  /// Of a text with many lines around the data the first and the last are told.
+  void note_reasons() {
+    constexpr std::size_t most_above = 40;
+    for (std::size_t i = 0; i < judged_.size(); ++i) {
+      std::size_t const position = judged_[i].position;
+      LineRole const role = roles_[position].value_or(LineRole::Data);
+      bool const is_edge = position == first_ || position == last_;
+      bool const is_far = i > most_above && i + most_above < judged_.size();
+      if (!is_edge && (role == LineRole::Data || is_far)) {
+        continue;
+      }
+      found_.reasons.push_back({table_.all()[position].line, role,
+                                reasons_for(judged_[i], best_.roles[i], best_.rivals[i])});
     }
-    if (trimmed(text).empty()) {
-      return LineRole::Blank;
-    }
-    if (line == 0 && is_separator_line(text)) {
-      return LineRole::Separator;
-    }
-    if (is_ruler(text)) {
-      return LineRole::Ruler;
-    }
-    if (is_comment(text, reading_.strategy->options())) {
-      return LineRole::Comment;
-    }
-    return has_names() && line >= end_of_names_ ? LineRole::Units : LineRole::Title;
   }
 
-  [[nodiscard]] LineRole role_below(std::size_t const line) const {
-    view const text = lines_[line];
-    if (trimmed(text).empty()) {
-      return LineRole::Blank;
-    }
-    if (splitting::is_ruler(text)) {
-      return LineRole::Ruler;
-    }
-    return is_comment(text, reading_.strategy->options()) ? LineRole::Comment : LineRole::Footer;
-  }
-
-  Reading const& reading_;
-  HeaderRows const& rows_;
-  LineIndex const& lines_;
-  Surroundings found_;
-  std::size_t first_name_line_ = 0;
-  std::size_t end_of_names_ = 0;
+  LineIndex const& index_;
+  GivenRegion const& given_;
+  bool sees_end_;
+  TableLines table_;
+  std::vector<JudgedLine> judged_;
+  RoleSequence best_;
+  std::vector<std::optional<LineRole>> roles_;  ///< of the lines that hold something
+  std::size_t first_ = 0;
+  std::size_t last_ = 0;
+  LineRoles found_;
 };
 
 }  // namespace
 
-Surroundings look_around(Reading const& r, HeaderRows const& rows, LineIndex const& lines) {
-  return RoleReader(r, rows, lines).run();
+LineRoles decide_roles(Reading const& r, LineIndex const& lines, GivenRegion const& given,
+                       bool const sees_end) {
+  return RoleReader(r, lines, given, sees_end).run();
 }
 
 }  // namespace textimport::analysis
