@@ -63,7 +63,7 @@ bool are_parted(std::vector<view> const& lines, Starts const& starts) {
   std::size_t parted = 0;
   for (view const line : lines) {
     parted += std::ranges::all_of(starts, [&](std::size_t const start) {
-      return start == 0 || start > line.size() || line[start - 1] == u' ' || line[start] == u' ';
+      return start == 0 || start >= line.size() || line[start - 1] == u' ' || line[start] == u' ';
     });
   }
   return parted * 4 >= lines.size() * 3;
