@@ -20,8 +20,8 @@ namespace {
 using view = std::u16string_view;
 
 // Enough lines to see whether something recurs.
-constexpr std::size_t lines_looked_at = 400;
-constexpr std::size_t words_looked_at = 100;  // lines
+constexpr std::size_t lines_looked_at = 150;
+constexpr std::size_t words_looked_at = 50;  // lines
 
 /// A quote behind blanks behind a delimiter.
 bool has_quotes_behind_blanks(view const head, char16_t const quote) {

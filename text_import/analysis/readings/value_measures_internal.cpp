@@ -67,7 +67,7 @@ Kind kind_of(ValueShape const shape) noexcept {
 }
 
 // Enough to judge a reading by; what the rest would add is not worth its time.
-constexpr std::size_t records_judged = 60;
+constexpr std::size_t records_judged = 32;
 constexpr std::size_t columns_judged = 40;
 
 /// The positions of the regular records that are looked at, in their order.

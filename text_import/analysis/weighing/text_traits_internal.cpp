@@ -23,7 +23,7 @@ using textio::platform::is_letter;
 using view = std::u16string_view;
 
 // Enough to see what a text is like.
-constexpr std::size_t lines_looked_at = 120;
+constexpr std::size_t lines_looked_at = 60;
 constexpr std::size_t units_looked_at = 400;  // of a line
 
 // The commonest words without a meaning of their own in languages with the letters a to z, sorted.
