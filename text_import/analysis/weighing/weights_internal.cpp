@@ -100,6 +100,6 @@ std::span<MeasureWeights const> all_weights() noexcept {
   return weights;
 }
 
-double const decided_from = 0.7;
+double const decided_from = 0.67;
 
 }  // namespace textimport::analysis
