@@ -71,7 +71,7 @@ class LineMeasurer {
   [[nodiscard]] std::size_t years() const noexcept { return years_; }
 
  private:
-  void compare(LineMeasures& m, LineCell const& cell, std::size_t column) const;
+  void compare(LineMeasures& m, LineCell const& cell, std::size_t i) const;
   [[nodiscard]] bool does_fit(LineMeasures const& m, TableLine const& line) const;
 
   TableLines const& lines_;

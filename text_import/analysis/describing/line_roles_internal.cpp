@@ -18,7 +18,7 @@ namespace textimport::analysis {
 namespace {
 
 // Below this a part of the table may as well be another.
-constexpr double decided_from = 0.6;
+constexpr double decided_from = 0.7;
 
 bool holds(std::vector<std::size_t> const& lines, std::size_t const line) {
   return std::ranges::find(lines, line) != lines.end();

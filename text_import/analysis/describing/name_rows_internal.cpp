@@ -50,7 +50,7 @@ std::vector<Stretch> words_of(view const line) {
 }
 
 /// Where the values of the columns stand in lines of data; empty when the columns do not keep to
-/// places of their own.
+/// places of their own, with a gap between.
 std::vector<Stretch> find_places(TableLines const& lines, HeaderRows const& data) {
   constexpr std::size_t most = 50;
   Reading const& r = lines.reading();
@@ -74,7 +74,7 @@ std::vector<Stretch> find_places(TableLines const& lines, HeaderRows const& data
     }
   }
   for (std::size_t i = 0; i < places.size(); ++i) {
-    bool const is_apart = i == 0 || places[i].begin >= places[i - 1].end;
+    bool const is_apart = i == 0 || places[i].begin > places[i - 1].end;
     if (places[i].end == 0 || !is_apart) {
       return {};
     }
@@ -299,6 +299,7 @@ NameRows read_names(TableLines const& lines, std::vector<std::size_t> const& row
                     NameRequest const& request) {
   NameReader reader(lines, request.data);
   std::vector<Names> read;
+  read.reserve(rows.size());
   for (std::size_t const row : rows) {
     read.push_back(reader.read(row));
   }

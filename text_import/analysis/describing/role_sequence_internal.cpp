@@ -68,10 +68,10 @@ class RolePath {
   }
 
  private:
-  [[nodiscard]] std::int32_t step(std::size_t const i, std::size_t const last,
-                                  std::size_t const role) const {
+  [[nodiscard]] std::int32_t step(std::size_t const i, std::size_t const from,
+                                  std::size_t const to) const {
     auto const& weights = lines_[i].blank_before ? transitions_over_blanks : transitions;
-    return may_follow(role, last) ? weights[last][role] : impossible;
+    return may_follow(to, from) ? weights[from][to] : impossible;
   }
 
   void walk_down() {

@@ -13,35 +13,35 @@
 
 namespace textimport::analysis {
 
-inline constexpr std::array<std::u16string_view, 34> total_words{
-    u"total",        u"sum",         u"subtotal", u"sub-total",
-    u"grand total",  u"all ",        u"overall",  u"average",
-    u"mean",         u"median",      u"balance",  u"gesamt",
-    u"summe",        u"insgesamt",   u"zusammen", u"mittel",
-    u"durchschnitt", u"ensemble",    u"somme",    u"moyenne",
-    u"suma",         u"promedio",    u"totale",   u"somma",
-    u"media",        u"soma",        u"totaal",   u"gemiddeld",
-    u"razem",        u"i alt",       u"totalt",   u"\u0418\u0442\u043E\u0433",
-    u"\u5408\u8BA1", u"\u5408\u8A08"};
+inline constexpr auto total_words = std::to_array<std::u16string_view>(
+    {u"total",        u"sum",         u"subtotal", u"sub-total",
+     u"grand total",  u"all ",        u"overall",  u"average",
+     u"mean",         u"median",      u"balance",  u"gesamt",
+     u"summe",        u"insgesamt",   u"zusammen", u"mittel",
+     u"durchschnitt", u"ensemble",    u"somme",    u"moyenne",
+     u"suma",         u"promedio",    u"totale",   u"somma",
+     u"media",        u"soma",        u"totaal",   u"gemiddeld",
+     u"razem",        u"i alt",       u"totalt",   u"\u0418\u0442\u043E\u0433",
+     u"\u5408\u8BA1", u"\u5408\u8A08"});
 
-inline constexpr std::array<std::u16string_view, 36> note_words{
-    u"source",      u"note",       u"footnote",  u"for more",
-    u"see ",        u"internet",   u"http",      u"updated",
-    u"last update", u"generated",  u"printed",   u"data are",
-    u"includes",    u"excludes",   u"copyright", u"\u00A9",
-    u"quelle",      u"hinweis",    u"anmerkung", u"stand:",
-    u"erstellt",    u"fuente",     u"nota",      u"fonte",
-    u"remarque",    u"bron",       u"noot",      u"\u017Ar\u00F3d\u0142o",
-    u"symbol",      u"k\u00E4lla", u"kilde",     u"\u6CE8"};
+inline constexpr auto note_words = std::to_array<std::u16string_view>(
+    {u"source",      u"note",       u"footnote",  u"for more",
+     u"see ",        u"internet",   u"http",      u"updated",
+     u"last update", u"generated",  u"printed",   u"data are",
+     u"includes",    u"excludes",   u"copyright", u"\u00A9",
+     u"quelle",      u"hinweis",    u"anmerkung", u"stand:",
+     u"erstellt",    u"fuente",     u"nota",      u"fonte",
+     u"remarque",    u"bron",       u"noot",      u"\u017Ar\u00F3d\u0142o",
+     u"symbol",      u"k\u00E4lla", u"kilde",     u"\u6CE8"});
 
-inline constexpr std::array<std::u16string_view, 14> title_words{
-    u"table",   u"chart",   u"figure", u"report", u"appendix", u"tabelle", u"bericht",
-    u"tableau", u"rapport", u"cuadro", u"tabla",  u"tavola",   u"tabel",   u"tabela"};
+inline constexpr auto title_words = std::to_array<std::u16string_view>(
+    {u"table", u"chart", u"figure", u"report", u"appendix", u"tabelle", u"bericht", u"tableau",
+     u"rapport", u"cuadro", u"tabla", u"tavola", u"tabel", u"tabela"});
 
-inline constexpr std::array<std::u16string_view, 16> unit_words{
-    u"percent",    u"per cent", u"thousand", u"in thousand", u"million", u"billion", u"number",
-    u"unit",       u"dollars",  u"prozent",  u"tausend",     u"mio",     u"anzahl",  u"pourcentage",
-    u"porcentaje", u"%"};
+inline constexpr auto unit_words = std::to_array<std::u16string_view>(
+    {u"percent", u"per cent", u"thousand", u"in thousand", u"million", u"billion", u"number",
+     u"unit", u"dollars", u"prozent", u"tausend", u"mio", u"anzahl", u"pourcentage", u"porcentaje",
+     u"%"});
 
 /// Whether the text begins with one of the words, in any letter case.
 template <std::size_t n>

@@ -137,7 +137,7 @@ class SumFinder {
       ++compared;
       agreed += is_near(sum, *rows_[row][column]) ? 1U : 0U;
     }
-    return agreed * 2 > compared;
+    return agreed > 1 && agreed * 2 > compared;  // one column alone adds up by chance
   }
 
   std::vector<Row> rows_;
