@@ -90,7 +90,8 @@ ordered_json describe(std::string const& path, std::string_view const layout,
   textimport::LineIndex const index(sample.text, task.parsing.line_endings);
   auto collected =
       analysis::collect_readings(index, analysis::propose_hypotheses(index, task), task);
-  auto const weighed = analysis::weigh_readings(collected.readings, task.layout.has_value());
+  auto const weighed = analysis::weigh_readings(
+      collected.readings, index, collected.engine_decision.get(), task.layout.has_value());
   ordered_json object{{"id", std::filesystem::path(path).filename().string()}};
   if (!weighed.winner) {
     return object;
