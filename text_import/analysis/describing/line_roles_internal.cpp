@@ -69,16 +69,20 @@ LineRole role_of(LineKind const kind) {
       return LineRole::Comment;
     case LineKind::Separator:
       return LineRole::Separator;
-    default:
-      return LineRole::Blank;
+    case LineKind::Plain:
+      return LineRole::Data;
+    case LineKind::Filled:
+    case LineKind::Blank:
+      break;
   }
+  return LineRole::Blank;
 }
 
 class RoleReader {
  public:
   RoleReader(Reading const& r, LineIndex const& lines, GivenRegion const& given,
              bool const sees_end)
-      : index_(lines), given_(given), sees_end_(sees_end), table_(r, lines) {}
+      : index_(lines), given_(given), sees_end_(sees_end), table_(r, lines, !given.first && !given.end && !given.name_lines) {}
 
   LineRoles run() {
     decide();

@@ -28,6 +28,19 @@ bool may_follow(std::size_t const role, std::size_t const last) noexcept {
   return part_of(role) >= part_of(last) && !is_note_on_top;
 }
 
+using Steps = std::array<RoleScores, num_table_roles>;
+
+/// What the steps from each role to each other are worth.
+Steps steps_of(Steps const& weights) noexcept {
+  Steps steps{};
+  for (std::size_t from = 0; from < num_table_roles; ++from) {
+    for (std::size_t to = 0; to < num_table_roles; ++to) {
+      steps[from][to] = may_follow(to, from) ? weights[from][to] : impossible;
+    }
+  }
+  return steps;
+}
+
 /// A feature that is younger than the table says nothing: its weights are made with its help.
 RoleScores weights_of(LineFeature const feature) noexcept {
   auto const row = static_cast<std::size_t>(feature);
@@ -70,8 +83,7 @@ class RolePath {
  private:
   [[nodiscard]] std::int32_t step(std::size_t const i, std::size_t const from,
                                   std::size_t const to) const {
-    auto const& weights = lines_[i].blank_before ? transitions_over_blanks : transitions;
-    return may_follow(to, from) ? weights[from][to] : impossible;
+    return (lines_[i].blank_before ? steps_over_blanks_ : steps_)[from][to];
   }
 
   void walk_down() {
@@ -156,6 +168,8 @@ class RolePath {
   }
 
   std::vector<JudgedLine> const& lines_;
+  Steps steps_ = steps_of(transitions);
+  Steps steps_over_blanks_ = steps_of(transitions_over_blanks);
   std::vector<RoleScores> scores_;
   std::vector<RoleScores> before_;
   std::vector<RoleScores> behind_;

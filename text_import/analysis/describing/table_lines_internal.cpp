@@ -87,9 +87,10 @@ CellKind kind_of(view const text, ValueShape const shape) {
 
 }  // namespace
 
-TableLines::TableLines(Reading const& r, LineIndex const& lines)
+TableLines::TableLines(Reading const& r, LineIndex const& lines, bool const is_open)
     : reading_(r),
       index_(lines),
+      is_open_(is_open),
       columns_(r.block.columns),
       columns_seen_(std::min(r.block.columns, most_columns)) {
   lines_.reserve(r.records.size());
@@ -129,6 +130,20 @@ void TableLines::add_rulers(std::size_t const record, std::size_t const first,
   }
 }
 
+bool TableLines::is_plain(std::size_t const record) const {
+  constexpr std::size_t edge = 80;
+  std::size_t const count = reading_.records.size();
+  bool const is_inner = is_open_ && record >= edge && record + edge < count;
+  if (!is_inner || reading_.records[record].num_fields != columns_ ||
+      reading_.layout == Layout::FixedWidth) {
+    return false;
+  }
+  auto const fields = reading_.strategy->field_array()->record(record);
+  auto const empty = std::ranges::count_if(
+      fields, [](textio::Field const& field) { return field.length() == 0; });
+  return static_cast<std::size_t>(empty) * 2 <= fields.size();
+}
+
 void TableLines::add_record(std::size_t const record, std::size_t const end) {
   TableLine line;
   line.line = reading_.records[record].line;
@@ -137,7 +152,9 @@ void TableLines::add_record(std::size_t const record, std::size_t const end) {
   line.num_fields = reading_.records[record].num_fields;
   line.first_cell = cells_.size();
   view const text = index_[line.line];
-  if (trimmed(text).empty() && line.num_fields == 0) {
+  if (is_plain(record)) {
+    line.kind = LineKind::Plain;
+  } else if (trimmed(text).empty() && line.num_fields == 0) {
     line.kind = LineKind::Blank;
   } else if (line.line == 0 && is_separator_line(text)) {
     line.kind = LineKind::Separator;

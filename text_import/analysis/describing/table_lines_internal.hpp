@@ -26,8 +26,10 @@ struct LineCell {
   bool is_word = false;  ///< a text without blanks
 };
 
-/// What is plain about a line before its cells are compared with others.
-enum class LineKind : std::uint8_t { Filled, Blank, Ruler, Comment, Separator };
+/// What is plain about a line before its cells are compared with others. A Plain one is data: a
+/// record far from both ends of a long table, with all fields and most of them filled. Its cells
+/// are not looked at.
+enum class LineKind : std::uint8_t { Filled, Blank, Ruler, Comment, Separator, Plain };
 
 struct TableLine {
   std::size_t line = 0;    ///< the first physical line
@@ -43,7 +45,9 @@ struct TableLine {
 /// All lines of the records of a reading, in order.
 class TableLines {
  public:
-  TableLines(Reading const& r, LineIndex const& lines);
+  /// `is_open`: nothing is given of the lines of the data, so that those in the middle of a long
+  /// table may be Plain.
+  TableLines(Reading const& r, LineIndex const& lines, bool is_open = true);
 
   [[nodiscard]] std::vector<TableLine> const& all() const noexcept { return lines_; }
 
@@ -68,6 +72,7 @@ class TableLines {
  private:
   void add_rulers(std::size_t record, std::size_t first, std::size_t end);
   [[nodiscard]] std::size_t first_ruler(std::size_t line, std::size_t end) const;
+  [[nodiscard]] bool is_plain(std::size_t record) const;
   void add_record(std::size_t record, std::size_t end);
   void add_cells(TableLine& line);
   void add_pieces(TableLine& line);
@@ -75,6 +80,7 @@ class TableLines {
 
   Reading const& reading_;
   LineIndex const& index_;
+  bool is_open_;
   std::size_t columns_;
   std::size_t columns_seen_;
   std::vector<TableLine> lines_;
