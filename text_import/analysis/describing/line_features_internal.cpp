@@ -71,6 +71,8 @@ class LineJudge {
   void judge(std::size_t const i) {
     JudgedLine line;
     line.position = static_cast<std::size_t>(filled_[i] - lines_.all().data());
+    constexpr std::size_t usual_number = 48;
+    line.features.reserve(usual_number);
     now_ = &line.features;
     add(true, Always);
     judge_filling(measures_[i]);
@@ -165,9 +167,9 @@ class LineJudge {
     add(digits > 0 && digits <= 2 && digits + 1 < text.size() &&
             (text[digits] == u' ' || text[digits] == u'.') && words > 1,
         Numbered);
-    add(begins_with_one_of(text, total_words), TotalWord);
-    add(begins_with_one_of(text, note_words), NoteWord);
-    add(begins_with_one_of(text, title_words), TitleWord);
+    add(begins_with_one_of<total_words>(text), TotalWord);
+    add(begins_with_one_of<note_words>(text), NoteWord);
+    add(begins_with_one_of<title_words>(text), TitleWord);
     add(text.starts_with(u'(') && text.ends_with(u')'), InBrackets);
     add(text.front() >= u'a' && text.front() <= u'z', SmallFirst);
     bool const has_small =

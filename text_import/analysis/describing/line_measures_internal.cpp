@@ -56,7 +56,7 @@ void add_text(LineMeasures& m, LineCell const& cell) {
   m.year_texts += holds_year(cell.text) ? 1U : 0U;
   m.words += cell.is_word ? 1U : 0U;
   m.identifiers += is_identifier(cell.text) ? 1U : 0U;
-  m.has_unit = m.has_unit || begins_with_one_of(cell.text, unit_words);
+  m.has_unit = m.has_unit || begins_with_one_of<unit_words>(cell.text);
   m.has_address = m.has_address || cell.text.find(u"://") != view::npos ||
                   cell.text.find(u"www.") != view::npos;
   m.has_sentence = m.has_sentence || cell.text.find(u". ") != view::npos;

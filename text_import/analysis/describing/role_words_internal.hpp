@@ -43,10 +43,28 @@ inline constexpr auto unit_words = std::to_array<std::u16string_view>(
      u"unit", u"dollars", u"prozent", u"tausend", u"mio", u"anzahl", u"pourcentage", u"porcentaje",
      u"%"});
 
-/// Whether the text begins with one of the words, in any letter case.
+/// The ASCII characters with which the words begin, in lower case.
 template <std::size_t n>
-[[nodiscard]] bool begins_with_one_of(std::u16string_view const text,
-                                      std::array<std::u16string_view, n> const& words) noexcept {
+[[nodiscard]] constexpr std::array<bool, 128> starts_of(
+    std::array<std::u16string_view, n> const& words) {
+  std::array<bool, 128> starts{};
+  for (std::u16string_view const word : words) {
+    if (word.front() < starts.size()) {
+      starts[word.front()] = true;
+    }
+  }
+  return starts;
+}
+
+/// Whether the text begins with one of the words, in any letter case. Most texts are passed over at
+/// a glance.
+template <auto const& words>
+[[nodiscard]] bool begins_with_one_of(std::u16string_view const text) noexcept {
+  constexpr std::array<bool, 128> starts = starts_of(words);
+  char16_t const first = text.empty() ? u'\0' : textio::platform::to_lower(text.front());
+  if (text.empty() || (first < starts.size() && !starts[first])) {
+    return false;
+  }
   return std::ranges::any_of(words, [&](std::u16string_view const word) {
     return textio::platform::starts_with_ignoring_case(text, word);
   });

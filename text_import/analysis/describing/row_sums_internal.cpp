@@ -67,27 +67,40 @@ bool is_near(std::int64_t const sum, std::int64_t const value) noexcept {
   return difference * 1000 <= size;
 }
 
-using Row = std::vector<std::optional<std::int64_t>>;
-
-std::vector<Row> numbers_of(TableLines const& lines, std::vector<TableLine const*> const& filled) {
-  std::vector<Row> rows;
-  rows.reserve(filled.size());
-  for (TableLine const* const line : filled) {
-    Row row(lines.columns_seen());
-    auto const cells = lines.cells(*line);
-    for (std::size_t i = 0; i < std::min(cells.size(), row.size()); ++i) {
-      if (cells[i].kind == CellKind::Number) {
-        row[i] = thousandths(cells[i].text);
+/// The numbers of some rows, row after row.
+class NumberTable {
+ public:
+  NumberTable(TableLines const& lines, std::vector<TableLine const*> const& filled)
+      : columns_(lines.columns_seen()), numbers_(filled.size() * columns_) {
+    for (std::size_t row = 0; row < filled.size(); ++row) {
+      auto const cells = lines.cells(*filled[row]);
+      for (std::size_t i = 0; i < std::min(cells.size(), columns_); ++i) {
+        if (cells[i].kind == CellKind::Number) {
+          numbers_[row * columns_ + i] = thousandths(cells[i].text).value_or(0);
+        }
       }
     }
-    rows.push_back(std::move(row));
   }
-  return rows;
-}
+
+  [[nodiscard]] std::size_t rows() const noexcept {
+    return columns_ == 0 ? 0 : numbers_.size() / columns_;
+  }
+
+  [[nodiscard]] std::size_t columns() const noexcept { return columns_; }
+
+  /// 0 for what is no number.
+  [[nodiscard]] std::int64_t at(std::size_t const row, std::size_t const column) const noexcept {
+    return numbers_[row * columns_ + column];
+  }
+
+ private:
+  std::size_t columns_;
+  std::vector<std::int64_t> numbers_;
+};
 
 class SumFinder {
  public:
-  explicit SumFinder(std::vector<Row> rows) : rows_(std::move(rows)) {}
+  explicit SumFinder(NumberTable numbers) : numbers_(std::move(numbers)) {}
 
   /// `step`: 1 for the rows below, -1 for those above.
   [[nodiscard]] bool is_sum(std::size_t const row, std::ptrdiff_t const step) const {
@@ -98,11 +111,11 @@ class SumFinder {
     std::int64_t sum = 0;
     for (std::size_t count = 1; count <= most_rows_summed; ++count) {
       auto const at = static_cast<std::ptrdiff_t>(row) + step * static_cast<std::ptrdiff_t>(count);
-      if (at < 0 || at >= static_cast<std::ptrdiff_t>(rows_.size())) {
+      if (at < 0 || at >= static_cast<std::ptrdiff_t>(numbers_.rows())) {
         return false;
       }
-      sum += rows_[static_cast<std::size_t>(at)][*anchor].value_or(0);
-      if (count >= 2 && is_near(sum, *rows_[row][*anchor]) && others_agree(row, step, count)) {
+      sum += numbers_.at(static_cast<std::size_t>(at), *anchor);
+      if (count >= 2 && is_near(sum, numbers_.at(row, *anchor)) && others_agree(row, step, count)) {
         return true;
       }
     }
@@ -112,8 +125,8 @@ class SumFinder {
  private:
   /// The last column with a number that is not 0: the first ones may number the rows.
   [[nodiscard]] std::optional<std::size_t> anchor_of(std::size_t const row) const {
-    for (std::size_t column = rows_[row].size(); column-- > 0;) {
-      if (rows_[row][column].value_or(0) != 0) {
+    for (std::size_t column = numbers_.columns(); column-- > 0;) {
+      if (numbers_.at(row, column) != 0) {
         return column;
       }
     }
@@ -124,30 +137,30 @@ class SumFinder {
                                   std::size_t const count) const {
     std::size_t agreed = 0;
     std::size_t compared = 0;
-    for (std::size_t column = 0; column < rows_[row].size(); ++column) {
-      if (rows_[row][column].value_or(0) == 0) {
+    for (std::size_t column = 0; column < numbers_.columns(); ++column) {
+      if (numbers_.at(row, column) == 0) {
         continue;
       }
       std::int64_t sum = 0;
       auto at = static_cast<std::ptrdiff_t>(row);
       for (std::size_t i = 0; i < count; ++i) {
         at += step;
-        sum += rows_[static_cast<std::size_t>(at)][column].value_or(0);
+        sum += numbers_.at(static_cast<std::size_t>(at), column);
       }
       ++compared;
-      agreed += is_near(sum, *rows_[row][column]) ? 1U : 0U;
+      agreed += is_near(sum, numbers_.at(row, column)) ? 1U : 0U;
     }
     return agreed > 1 && agreed * 2 > compared;  // one column alone adds up by chance
   }
 
-  std::vector<Row> rows_;
+  NumberTable numbers_;
 };
 
 }  // namespace
 
 std::vector<RowSums> find_row_sums(TableLines const& lines,
                                    std::vector<TableLine const*> const& filled) {
-  SumFinder const finder(numbers_of(lines, filled));
+  SumFinder const finder(NumberTable(lines, filled));
   std::vector<RowSums> sums(filled.size());
   for (std::size_t row = 0; row < filled.size(); ++row) {
     sums[row] = {finder.is_sum(row, -1), finder.is_sum(row, 1)};

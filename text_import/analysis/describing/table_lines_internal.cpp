@@ -131,7 +131,7 @@ void TableLines::add_rulers(std::size_t const record, std::size_t const first,
 }
 
 bool TableLines::is_plain(std::size_t const record) const {
-  constexpr std::size_t edge = 80;
+  constexpr std::size_t edge = 40;
   std::size_t const count = reading_.records.size();
   bool const is_inner = is_open_ && record >= edge && record + edge < count;
   if (!is_inner || reading_.records[record].num_fields != columns_ ||

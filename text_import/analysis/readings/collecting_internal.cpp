@@ -63,10 +63,11 @@ class ReadingCollector {
       return;
     }
     constexpr double least_coverage = 0.3;
+    constexpr double least_of_common = 0.1;
     bool const takes_rest = assumed.syntax.rest_of_line > 0;
     std::set<std::u16string> delimiters;
     for (Reading const& r : found_.readings) {
-      bool const is_enough = is_common(r.delimiter) || r.coverage >= least_coverage;
+      bool const is_enough = r.coverage >= (is_common(r.delimiter) ? least_of_common : least_coverage);
       if (r.hypothesis == assumed.refined && r.layout == Layout::Delimited && is_enough) {
         delimiters.insert(r.delimiter);
       }
@@ -116,9 +117,10 @@ class ReadingCollector {
     for (FixedColumns const& columns : found) {
       auto const strategy =
           std::make_shared<FixedWidthStrategy>(assumed.parsing, task_.types, columns.widths());
-      // All lines that were profiled: the table may stand behind a long preamble.
+      // More than were profiled: the table may stand behind a long preamble.
+      constexpr std::size_t least_records = 500;
       textio::evaluate_strategy(strategy, textio::Field(lines_.text()),
-                                std::max(task_.request.records, lines_profiled));
+                                std::max(task_.request.records, least_records));
       Reading r = measure_records(strategy, lines_, task_, &columns);
       r.hypothesis = hypothesis;
       r.is_read_by_blanks = is_read_by_blanks(r);

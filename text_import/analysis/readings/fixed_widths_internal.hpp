@@ -43,6 +43,6 @@ struct FixedColumns {
 [[nodiscard]] FixedColumns single_column(LineIndex const& lines);
 
 /// The lines behind these are like those before them.
-inline constexpr std::size_t lines_profiled = 1000;
+inline constexpr std::size_t lines_profiled = 400;
 
 }  // namespace textimport::analysis

@@ -98,6 +98,24 @@ std::optional<view> find_end_comments(LineIndex const& lines, std::size_t const 
   return std::nullopt;
 }
 
+/// The characters that guesses are about, of those that the text holds.
+std::u16string held_in(view const text) {
+  constexpr view in_ascii = u"\\#/%!|";
+  std::array<bool, 128> is_met{};
+  std::u16string held;
+  for (char16_t const c : text) {
+    if (c < is_met.size()) {
+      is_met[c] = true;
+    } else if (splitting::bars.find(c) != view::npos && held.find(c) == view::npos) {
+      held += c;
+    }
+  }
+  for (char16_t const c : in_ascii) {
+    held += std::u16string(is_met.at(c) ? 1 : 0, c);
+  }
+  return held;
+}
+
 class Guesser {
  public:
   Guesser(LineIndex const& lines, Task const& task)
@@ -105,7 +123,7 @@ class Guesser {
         task_(task),
         end_(std::min(lines.count(), lines_looked_at)),
         head_(lines.between(0, end_)),
-        held_(lines.held_of(u"\\#/%!" + std::u16string(splitting::bars))),
+        held_(held_in(head_)),
         quote_(quote_of(task.parsing)) {}
 
   std::vector<SyntaxGuess> run() {

@@ -23,8 +23,8 @@ using textio::platform::is_letter;
 using view = std::u16string_view;
 
 // Enough to see what a text is like.
-constexpr std::size_t lines_looked_at = 60;
-constexpr std::size_t units_looked_at = 400;  // of a line
+constexpr std::size_t lines_looked_at = 40;
+constexpr std::size_t units_looked_at = 240;  // of a line
 
 // The commonest words without a meaning of their own in languages with the letters a to z, sorted.
 constexpr std::array<view, 64> function_words{

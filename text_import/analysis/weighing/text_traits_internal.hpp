@@ -37,7 +37,7 @@ struct TextTraits {
   std::size_t filled_lines = 0;  ///< lines that are not blank, of those looked at
 };
 
-/// Linear in the lines that are looked at, of which there are at most 60.
+/// Linear in the lines that are looked at, of which there are at most 40.
 [[nodiscard]] TextTraits find_text_traits(LineIndex const& lines);
 
 }  // namespace textimport::analysis
