@@ -132,15 +132,14 @@ void TableLines::add_rulers(std::size_t const record, std::size_t const first,
 
 bool TableLines::is_plain(std::size_t const record) const {
   constexpr std::size_t edge = 40;
-  std::size_t const count = reading_.records.size();
-  bool const is_inner = is_open_ && record >= edge && record + edge < count;
-  if (!is_inner || reading_.records[record].num_fields != columns_ ||
-      reading_.layout == Layout::FixedWidth) {
+  TableBlock const& block = reading_.block;
+  bool const is_inner = is_open_ && record >= block.first + edge && record + edge <= block.last;
+  if (!is_inner || reading_.records[record].num_fields != columns_) {
     return false;
   }
   auto const fields = reading_.strategy->field_array()->record(record);
   auto const empty = std::ranges::count_if(
-      fields, [](textio::Field const& field) { return field.length() == 0; });
+      fields, [](textio::Field const& field) { return trimmed(field.view()).empty(); });
   return static_cast<std::size_t>(empty) * 2 <= fields.size();
 }
 

@@ -170,6 +170,14 @@ class ReadingCollector {
     }
   }
 
+  /// What is guessed to begin comments delimits nothing.
+  [[nodiscard]] bool marks_comments(Reading const& r) const {
+    auto const& markers = r.strategy->options().comment_style;
+    bool const is_given = task_.request.comment_markers || !task_.request.delimiters.empty();
+    return !is_given && !r.delimiter.empty() && !markers.empty() &&
+           markers.front().starts_with(r.delimiter);
+  }
+
   /// A blank that is no delimiter separates no columns either.
   [[nodiscard]] bool is_excluded(Reading const& r) const {
     bool const is_given = !task_.request.delimiters.empty();
@@ -184,7 +192,7 @@ class ReadingCollector {
       take_single_column(r);
     }
     r.hypothesis = hypothesis_;
-    if (is_excluded(r)) {
+    if (is_excluded(r) || marks_comments(r)) {
       return;
     }
     if (auto last = measure_last_block(r)) {
