@@ -10,8 +10,8 @@
 
 #include "text_import/report/engine_rules_internal.hpp"
 #include "text_import/report/reading_words_internal.hpp"
-#include "text_import/report/score_words_internal.hpp"
 #include "text_import/report/sampled_part_internal.hpp"
+#include "text_import/report/score_words_internal.hpp"
 
 namespace textimport::reporting {
 

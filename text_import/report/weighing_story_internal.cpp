@@ -45,8 +45,7 @@ void add_syntax(LineSyntax const& syntax, std::vector<std::string>& assumed,
       "the marker stands behind data between blanks");
   add(syntax.quotes_behind_blanks, "blanks stand before quotes",
       "a quote stands behind a delimiter and blanks");
-  add(syntax.rest_of_line > 0,
-      fmt::format("field {} is the rest of the line", syntax.rest_of_line),
+  add(syntax.rest_of_line > 0, fmt::format("field {} is the rest of the line", syntax.rest_of_line),
       "what blanks split in front of it is the same in each line");
 }
 
@@ -137,15 +136,15 @@ std::string scores_text(Evidence const& evidence, ReportStyle const& style) {
   if (ranked.size() < 2) {
     return "";
   }
-  std::string text =
-      heading(fmt::format("What speaks for {} (+) and against it (-), beside {}",
-                          candidate_text(*ranked[0]), candidate_text(*ranked[1])),
-              style);
+  std::string text = heading(fmt::format("What speaks for {} (+) and against it (-), beside {}",
+                                         candidate_text(*ranked[0]), candidate_text(*ranked[1])),
+                             style);
   text += differences_text(evidence, *ranked[0], *ranked[1], of_answer, style.width);
   for (std::size_t i = 2; i < std::min(ranked.size(), others_shown + 2); ++i) {
-    text += heading(fmt::format("{}, {} likely: what speaks for it and against it, beside the answer",
-                                candidate_text(*ranked[i]), share_text(ranked[i]->share)),
-                    style);
+    text +=
+        heading(fmt::format("{}, {} likely: what speaks for it and against it, beside the answer",
+                            candidate_text(*ranked[i]), share_text(ranked[i]->share)),
+                style);
     text += differences_text(evidence, *ranked[i], *ranked[0], of_others, style.width);
   }
   return text;

@@ -116,8 +116,8 @@ std::string describe(Analysis const& found) {
   for (std::size_t i = 0; i < evidence.candidates.size(); ++i) {
     Candidate const& c = evidence.candidates[i];
     out << "reading " << word_of(c.layout) << " '" << support::show(c.delimiter) << "' "
-        << c.num_columns << " (" << describe(evidence.hypotheses[c.hypothesis])
-        << ")" << (evidence.winner == i ? ": won" : "") << "\n";
+        << c.num_columns << " (" << describe(evidence.hypotheses[c.hypothesis]) << ")"
+        << (evidence.winner == i ? ": won" : "") << "\n";
   }
   return out.str();
 }

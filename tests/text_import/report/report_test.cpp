@@ -84,7 +84,8 @@ TEST(report, shows_the_answer_then_the_rows_then_the_rest) {
 TEST(report, of_a_guess_lists_what_else_the_text_may_be) {
   std::u16string const text = u"col1,col2\n1;2;3,4;5;6\na;b;c,d;e;f\n";
   std::string const shown = report(analysis_of(text), made, {});
-  EXPECT_EQ(between(shown, "  layout", "\n    text"), R"(  layout        not decided; read as delimited
+  EXPECT_EQ(between(shown, "  layout", "\n    text"),
+            R"(  layout        not decided; read as delimited
   delimiter     semicolon
   how sure      46 %, a guess
   why           too little speaks for the best reading: 67 % of the lines have 5

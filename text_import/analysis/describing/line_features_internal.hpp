@@ -52,7 +52,7 @@ namespace textimport::analysis {
   X(AllYears, "its numbers are years")                                              \
   X(CountsUp, "its numbers count up")                                               \
   X(YearsAreUsual, "years stand in its columns elsewhere too")                      \
-  X(YearRow, "its numbers are years, and others of the columns are not")                          \
+  X(YearRow, "its numbers are years, and others of the columns are not")            \
   X(YearTexts, "several of its texts hold a year")                                  \
   X(Decimals, "a number has decimals")                                              \
   X(LongText, "it holds a long text")                                               \

@@ -82,7 +82,10 @@ class RoleReader {
  public:
   RoleReader(Reading const& r, LineIndex const& lines, GivenRegion const& given,
              bool const sees_end)
-      : index_(lines), given_(given), sees_end_(sees_end), table_(r, lines, !given.first && !given.end && !given.name_lines) {}
+      : index_(lines),
+        given_(given),
+        sees_end_(sees_end),
+        table_(r, lines, !given.first && !given.end && !given.name_lines) {}
 
   LineRoles run() {
     decide();

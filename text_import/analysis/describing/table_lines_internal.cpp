@@ -5,8 +5,8 @@
 
 #include "text_format_detection/platform/ascii_internal.hpp"
 #include "text_import/analysis/values/text_internal.hpp"
-#include "text_import/splitting/rulers_internal.hpp"
 #include "text_import/analysis/values/value_shape_internal.hpp"
+#include "text_import/splitting/rulers_internal.hpp"
 
 namespace textimport::analysis {
 
@@ -131,7 +131,7 @@ void TableLines::add_rulers(std::size_t const record, std::size_t const first,
 }
 
 bool TableLines::is_plain(std::size_t const record) const {
-  constexpr std::size_t edge = 40;
+  constexpr std::size_t edge = 60;
   TableBlock const& block = reading_.block;
   bool const is_inner = is_open_ && record >= block.first + edge && record + edge <= block.last;
   if (!is_inner || reading_.records[record].num_fields != columns_) {

@@ -67,7 +67,8 @@ class ReadingCollector {
     bool const takes_rest = assumed.syntax.rest_of_line > 0;
     std::set<std::u16string> delimiters;
     for (Reading const& r : found_.readings) {
-      bool const is_enough = r.coverage >= (is_common(r.delimiter) ? least_of_common : least_coverage);
+      bool const is_enough =
+          r.coverage >= (is_common(r.delimiter) ? least_of_common : least_coverage);
       if (r.hypothesis == assumed.refined && r.layout == Layout::Delimited && is_enough) {
         delimiters.insert(r.delimiter);
       }

@@ -114,7 +114,8 @@ void set_block(Reading& r, TableBlock const& block) {
 double share_with_fields(Reading const& r, std::size_t const least) {
   auto const count = std::ranges::count_if(
       r.records, [&](RecordPlace const& record) { return record.num_fields >= least; });
-  return static_cast<double>(count) / static_cast<double>(std::max<std::size_t>(r.filled_records, 1));
+  return static_cast<double>(count) /
+         static_cast<double>(std::max<std::size_t>(r.filled_records, 1));
 }
 
 /// A line that fits the columns has all of them, whatever its length; another is no record of them.
@@ -127,8 +128,9 @@ void count_fitting_lines(Reading& r, LineIndex const& lines, FixedColumns const&
 }
 
 bool has_same_values(std::span<Field const> const a, std::span<Field const> const b) {
-  return std::ranges::equal(a, b, {}, [](Field const& f) { return trimmed(f.view()); },
-                            [](Field const& f) { return trimmed(f.view()); });
+  return std::ranges::equal(
+      a, b, {}, [](Field const& f) { return trimmed(f.view()); },
+      [](Field const& f) { return trimmed(f.view()); });
 }
 
 /// Those that are one code unit long.
@@ -174,7 +176,8 @@ bool read_alike(Reading const& a, Reading const& b) {
     if (a.records[i].num_fields != a.block.columns) {
       continue;
     }
-    auto const same = std::ranges::lower_bound(b.records, a.records[i].line, {}, &RecordPlace::line);
+    auto const same =
+        std::ranges::lower_bound(b.records, a.records[i].line, {}, &RecordPlace::line);
     if (same == b.records.end() || same->line != a.records[i].line ||
         !has_same_values(a.strategy->field_array()->record(i),
                          b.strategy->field_array()->record(

@@ -41,38 +41,38 @@ struct Reading {
   Layout layout = Layout::Lines;
   std::u16string delimiter;
   char16_t quote = 0;
-  LineSyntax syntax;  ///< what its lines have beside
+  LineSyntax syntax;               ///< what its lines have beside
   ValueGrammar values{u'\0', {}};  ///< how its values are judged
 
   std::vector<RecordPlace> records;
   std::size_t filled_records = 0;
   TableBlock block;
-  double agreement = 0;     ///< of the column profile; fixed widths only
-  double equal_lengths = 0;   ///< of the column profile; fixed widths only
-  double head_agreement = 0;  ///< the same in front of the last column; fixed widths only
+  double agreement = 0;            ///< of the column profile; fixed widths only
+  double equal_lengths = 0;        ///< of the column profile; fixed widths only
+  double head_agreement = 0;       ///< the same in front of the last column; fixed widths only
   bool is_read_by_blanks = false;  ///< blanks part the same values; fixed widths only
-  double head_share = 0;      ///< of the usual length, what stands there; fixed widths only
-  bool by_ruler = false;      ///< a line of dashes or bars parts the columns
-  double coverage = 0;      ///< regular records, as a share of all filled ones
-  double regularity = 0;    ///< the same inside the block
-  double split_share = 0;   ///< records of more than one field, as a share of all filled ones
+  double head_share = 0;           ///< of the usual length, what stands there; fixed widths only
+  bool by_ruler = false;           ///< a line of dashes or bars parts the columns
+  double coverage = 0;             ///< regular records, as a share of all filled ones
+  double regularity = 0;           ///< the same inside the block
+  double split_share = 0;       ///< records of more than one field, as a share of all filled ones
   double much_split_share = 0;  ///< the same of more than three
-  double soundness = 0;     ///< how well the values hold together, 0 to 1
-  double broken_share = 0;  ///< values that a wrong cut seems to have left
-  double empty_share = 0;   ///< fields that are empty
-  double typed_share = 0;   ///< values that say more than text
+  double soundness = 0;         ///< how well the values hold together, 0 to 1
+  double broken_share = 0;      ///< values that a wrong cut seems to have left
+  double empty_share = 0;       ///< fields that are empty
+  double typed_share = 0;       ///< values that say more than text
   std::size_t typed_columns = 0;
   std::size_t filled_columns = 0;  ///< columns with a value
   std::size_t longest_record = 1;  ///< in lines
-  double mixed_share = 0;       ///< values of another kind than most of their column
-  bool has_names = false;       ///< the first record is text above columns that are more than text
-  double open_end_share = 0;    ///< records whose last field is empty
-  double aligned_share = 0;     ///< fields that begin or end below those of the record before
-  double wide_gap_share = 0;    ///< fields with more than a single blank in front; split at blanks
-  double torn_share = 0;        ///< fields that end inside a word; fixed widths only
-  double inner_blank_share = 0; ///< values that hold a blank
-  double seconds_share = 0;     ///< records that are cut at the fraction of a second
-  double key_share = 0;         ///< records that are a name and its value
+  double mixed_share = 0;          ///< values of another kind than most of their column
+  bool has_names = false;        ///< the first record is text above columns that are more than text
+  double open_end_share = 0;     ///< records whose last field is empty
+  double aligned_share = 0;      ///< fields that begin or end below those of the record before
+  double wide_gap_share = 0;     ///< fields with more than a single blank in front; split at blanks
+  double torn_share = 0;         ///< fields that end inside a word; fixed widths only
+  double inner_blank_share = 0;  ///< values that hold a blank
+  double seconds_share = 0;      ///< records that are cut at the fraction of a second
+  double key_share = 0;          ///< records that are a name and its value
 };
 
 /// The measures of what a strategy of the engine sampled. `columns`, for fixed widths only, tell

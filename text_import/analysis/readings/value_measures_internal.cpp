@@ -189,7 +189,8 @@ class PlaceCount {
     bool const is_fixed = reading_.layout == Layout::FixedWidth;
     for (std::size_t const i : records) {
       Record const record = reading_.strategy->field_array()->record(i);
-      is_fixed ? add_widths(reading_.records[i].line) : add_blanks(record, reading_.records[i].line);
+      is_fixed ? add_widths(reading_.records[i].line)
+               : add_blanks(record, reading_.records[i].line);
     }
     reading_.torn_share = share_of(torn_, cuts_);
     reading_.wide_gap_share = share_of(wide_gaps_, cuts_);

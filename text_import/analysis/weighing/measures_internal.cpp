@@ -58,7 +58,8 @@ double is_so(A const& a) {
 
 template <char16_t delimiter>
 bool is_split_at(Reading const& r) {
-  return r.layout == Layout::Delimited && r.delimiter.size() == 1 && r.delimiter.front() == delimiter;
+  return r.layout == Layout::Delimited && r.delimiter.size() == 1 &&
+         r.delimiter.front() == delimiter;
 }
 
 bool stands_inside_values(Reading const& r) {
@@ -89,8 +90,7 @@ constexpr auto yes_no = MeasureScale::YesOrNo;
 constexpr auto number = MeasureScale::Number;
 
 constexpr std::array measures{
-    Measure{"kind", "how often tables of this kind are met", number,
-            [](A const&) { return 1.0; }},
+    Measure{"kind", "how often tables of this kind are met", number, [](A const&) { return 1.0; }},
     Measure{"tab", "split at tabs", yes_no, is_so<is_split_at<u'\t'>>},
     Measure{"comma", "split at commas", yes_no, is_so<is_split_at<u','>>},
     Measure{"semicolon", "split at semicolons", yes_no, is_so<is_split_at<u';'>>},
@@ -116,9 +116,9 @@ constexpr std::array measures{
     Measure{"uncovered", "records without these columns", share, lack_of<&Reading::coverage>},
     Measure{"uncovered_root", "the root of the share of records without these columns", number,
             [](A const& a) { return std::sqrt(std::max(0.0, lack_of<&Reading::coverage>(a))); }},
-    Measure{"irregular", "records without these columns between the first and the last with them", share, lack_of<&Reading::regularity>},
-    Measure{"split", "records with more than one field", share,
-            of_reading<&Reading::split_share>},
+    Measure{"irregular", "records without these columns between the first and the last with them",
+            share, lack_of<&Reading::regularity>},
+    Measure{"split", "records with more than one field", share, of_reading<&Reading::split_share>},
     Measure{"split_much", "records with more than three fields", share,
             of_reading<&Reading::much_split_share>},
     Measure{"records", "how many records there are, in steps of doubling", number,
@@ -130,8 +130,9 @@ constexpr std::array measures{
     Measure{"two_records", "two records", yes_no,
             is_so<([](Reading const& r) { return r.block.regular == 2; })>},
     Measure{"reaches_end", "the table stands at the end of the text", yes_no, is_so<reaches_end>},
-    Measure{"flawless_end", "a flawless table with columns that are more than text stands at the "
-                            "end of the text",
+    Measure{"flawless_end",
+            "a flawless table with columns that are more than text stands at the "
+            "end of the text",
             yes_no, is_so<is_flawless_end>},
     Measure{"long_records", "a record spans more than three lines", yes_no,
             is_so<([](Reading const& r) { return r.longest_record > 3; })>},
@@ -159,7 +160,8 @@ constexpr std::array measures{
             of_reading<&Reading::inner_blank_share>},
     Measure{"seconds", "records that are cut at the fraction of a second", share,
             of_reading<&Reading::seconds_share>},
-    Measure{"keys", "records that are a name and its value", share, of_reading<&Reading::key_share>},
+    Measure{"keys", "records that are a name and its value", share,
+            of_reading<&Reading::key_share>},
     Measure{"fit", "coverage times soundness", share, fit},
 
     Measure{"unaligned", "fields that stand below no edge of the one above", share,
@@ -174,7 +176,8 @@ constexpr std::array measures{
             lack_in<&Reading::head_share, ReadingKind::Fixed>},
     Measure{"ruled", "a ruler parts the columns", yes_no,
             is_so<([](Reading const& r) { return r.by_ruler || r.syntax.has_rulers; })>},
-    Measure{"unequal", "lines of another length than most", share, lack_in<&Reading::equal_lengths, ReadingKind::Fixed>},
+    Measure{"unequal", "lines of another length than most", share,
+            lack_in<&Reading::equal_lengths, ReadingKind::Fixed>},
     Measure{"torn", "columns that end inside a word", share, of_reading<&Reading::torn_share>},
     Measure{"as_by_blanks", "blanks part the same values", yes_no,
             is_so<([](Reading const& r) { return r.is_read_by_blanks; })>},
@@ -205,8 +208,7 @@ constexpr std::array measures{
     Measure{"numbers", "words that are numbers", share, of_text<&TextTraits::number_words>},
     Measure{"time_stamps", "lines that begin with a date or a time", share,
             of_text<&TextTraits::time_stamps>},
-    Measure{"logs", "lines with a time in front of prose", share,
-            of_text<&TextTraits::log_lines>},
+    Measure{"logs", "lines with a time in front of prose", share, of_text<&TextTraits::log_lines>},
     Measure{"levels", "lines with a word such as INFO or ERROR", share,
             of_text<&TextTraits::log_levels>},
     Measure{"pairs", "words such as \"name=value\"", share, of_text<&TextTraits::pair_words>},
@@ -236,12 +238,10 @@ constexpr std::array measures{
             of_text<&TextTraits::length_spread>},
     Measure{"words_spread", "how much the numbers of words in the lines differ", number,
             of_text<&TextTraits::words_spread>},
-    Measure{"words", "words in a line, in steps of doubling", number,
-            [](A const& a) {
-              return magnitude(static_cast<std::size_t>(a.text->words_a_line), 6);
-            }},
-    Measure{"addresses", "lines with a path or an address", share,
-            of_text<&TextTraits::addresses>},
+    Measure{
+        "words", "words in a line, in steps of doubling", number,
+        [](A const& a) { return magnitude(static_cast<std::size_t>(a.text->words_a_line), 6); }},
+    Measure{"addresses", "lines with a path or an address", share, of_text<&TextTraits::addresses>},
     Measure{"lines", "how many lines there are, in steps of doubling", number,
             [](A const& a) { return magnitude(a.text->filled_lines, 8); }},
     Measure{"few_lines", "no more than five lines", yes_no,

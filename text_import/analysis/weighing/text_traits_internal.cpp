@@ -23,20 +23,20 @@ using textio::platform::is_letter;
 using view = std::u16string_view;
 
 // Enough to see what a text is like.
-constexpr std::size_t lines_looked_at = 40;
+constexpr std::size_t lines_looked_at = 60;
 constexpr std::size_t units_looked_at = 240;  // of a line
 
 // The commonest words without a meaning of their own in languages with the letters a to z, sorted.
 constexpr std::array<view, 64> function_words{
-    u"all", u"an", u"and", u"are", u"as", u"at", u"be", u"but", u"by", u"can", u"che", u"con",
-    u"das", u"del", u"der", u"des", u"die", u"du", u"ein", u"eine", u"el", u"est", u"et", u"for",
-    u"from", u"had", u"has", u"have", u"he", u"het", u"if", u"il", u"in", u"is", u"ist", u"it",
-    u"la", u"le", u"les", u"los", u"mit", u"not", u"of", u"on", u"or", u"por", u"que", u"that",
-    u"the", u"they", u"this", u"to", u"una", u"und", u"van", u"von", u"was", u"we", u"when",
-    u"which", u"will", u"with", u"you", u"zu"};
+    u"all", u"an",  u"and",  u"are",  u"as",    u"at",   u"be",   u"but", u"by",   u"can", u"che",
+    u"con", u"das", u"del",  u"der",  u"des",   u"die",  u"du",   u"ein", u"eine", u"el",  u"est",
+    u"et",  u"for", u"from", u"had",  u"has",   u"have", u"he",   u"het", u"if",   u"il",  u"in",
+    u"is",  u"ist", u"it",   u"la",   u"le",    u"les",  u"los",  u"mit", u"not",  u"of",  u"on",
+    u"or",  u"por", u"que",  u"that", u"the",   u"they", u"this", u"to",  u"una",  u"und", u"van",
+    u"von", u"was", u"we",   u"when", u"which", u"will", u"with", u"you", u"zu"};
 
 // How programs call the weight of what they log.
-constexpr std::array<view, 10> log_levels{u"trace", u"debug", u"info",  u"notice",   u"warn",
+constexpr std::array<view, 10> log_levels{u"trace",   u"debug", u"info",  u"notice",   u"warn",
                                           u"warning", u"error", u"fatal", u"critical", u"severe"};
 
 double share_of(std::size_t const part, std::size_t const whole) {
@@ -75,10 +75,9 @@ bool follows(view const text, view const pattern) {
     return false;
   }
   for (std::size_t i = 0; i < pattern.size(); ++i) {
-    bool const fits = pattern[i] == u'0' ? is_digit(text[i])
-                      : pattern[i] == u'/'
-                          ? text[i] == u'/' || text[i] == u'-' || text[i] == u'.'
-                          : text[i] == pattern[i];
+    bool const fits = pattern[i] == u'0'   ? is_digit(text[i])
+                      : pattern[i] == u'/' ? text[i] == u'/' || text[i] == u'-' || text[i] == u'.'
+                                           : text[i] == pattern[i];
     if (!fits) {
       return false;
     }
@@ -92,8 +91,9 @@ bool begins_with_time_stamp(view const line) {
   view const head = line.substr(0, reach + 10);
   for (std::size_t i = 0; i < std::min(head.size(), reach); ++i) {
     bool const is_start = is_digit(head[i]) && (i == 0 || !is_digit(head[i - 1]));
-    if (is_start && (follows(head.substr(i), u"0000/00/00") || follows(head.substr(i), u"00:00:00") ||
-                     follows(head.substr(i), u"00/00/0000"))) {
+    if (is_start &&
+        (follows(head.substr(i), u"0000/00/00") || follows(head.substr(i), u"00:00:00") ||
+         follows(head.substr(i), u"00/00/0000"))) {
       return true;
     }
   }
@@ -130,11 +130,11 @@ enum CharacterKind : std::uint8_t { OtherSign, Letter, Digit, Blank, Comma };
 constexpr std::array<std::uint8_t, 128> character_kinds = [] {
   std::array<std::uint8_t, 128> kinds{};
   for (char16_t c = 0; c < kinds.size(); ++c) {
-    kinds[c] = is_letter(c)   ? Letter
-               : is_digit(c)  ? Digit
-               : is_blank(c)  ? Blank
-               : c == u','    ? Comma
-                              : OtherSign;
+    kinds[c] = is_letter(c)  ? Letter
+               : is_digit(c) ? Digit
+               : is_blank(c) ? Blank
+               : c == u','   ? Comma
+                             : OtherSign;
   }
   return kinds;
 }();
@@ -232,11 +232,12 @@ class TraitCount {
     count(tags_, line.find(u"</") != view::npos || line.find(u"/>") != view::npos);
     count(addresses_, line.front() == u'/' || line.find(u"://") != view::npos);
     count(leaders_, line.find(u"....") != view::npos);
-    count(single_values_, line.size() <= longest_value &&
-                              is_typed(grammar_.look_at_type(line).shape));
+    count(single_values_,
+          line.size() <= longest_value && is_typed(grammar_.look_at_type(line).shape));
     std::size_t const key = key_length(line);
     view const behind = line.substr(key);
-    count(colon_keys_, key > 0 && behind.starts_with(u":") && (behind.size() == 1 || is_blank(behind[1])));
+    count(colon_keys_,
+          key > 0 && behind.starts_with(u":") && (behind.size() == 1 || is_blank(behind[1])));
     count(equals_keys_, key > 0 && behind.starts_with(u"="));
   }
 
@@ -248,7 +249,8 @@ class TraitCount {
     std::array<std::size_t, 5> kinds{};
     std::uint8_t kind = character_kind(line.front());
     for (std::size_t i = 0; i < line.size(); ++i) {
-      std::uint8_t const next = i + 1 < line.size() ? character_kind(line[i + 1]) : std::uint8_t{OtherSign};
+      std::uint8_t const next =
+          i + 1 < line.size() ? character_kind(line[i + 1]) : std::uint8_t{OtherSign};
       ++kinds[kind];
       bool const is_word = kind == Letter || kind == Digit;
       if (!is_word || !in_word) {

@@ -76,9 +76,9 @@ class Weigher {
 
  private:
   [[nodiscard]] Alternative alternative_of(Reading const& r) const {
-    bool const agrees = engine_ != nullptr && layout_of(engine_->mode()) == r.layout &&
-                        (r.layout != Layout::Delimited ||
-                         engine_->options().delimiters.front() == r.delimiter);
+    bool const agrees =
+        engine_ != nullptr && layout_of(engine_->mode()) == r.layout &&
+        (r.layout != Layout::Delimited || engine_->options().delimiters.front() == r.delimiter);
     return {&r, kind_of(r), rivals_of(&r), agrees, r.hypothesis != 0, &traits_};
   }
 
@@ -126,7 +126,8 @@ class Weigher {
     for (std::size_t i = 0; i < measures.size(); ++i) {
       double const value = measures[i].value(alternative);
       if (value != 0) {
-        double const amount = value * weights[i].of_kind.at(static_cast<std::size_t>(alternative.kind));
+        double const amount =
+            value * weights[i].of_kind.at(static_cast<std::size_t>(alternative.kind));
         score.pieces.push_back({i, value, amount});
         score.score += amount;
       }
@@ -182,7 +183,9 @@ class Weigher {
 
   /// More likely in what it gives, then in how it splits, then by itself.
   [[nodiscard]] bool is_better(std::size_t const a, std::size_t const b) const {
-    auto const alike = [&](std::size_t const x, std::size_t const y) { return are_split_alike(x, y); };
+    auto const alike = [&](std::size_t const x, std::size_t const y) {
+      return are_split_alike(x, y);
+    };
     if (!give_alike(a, b)) {
       return share_of_alike(a) > share_of_alike(b);
     }
@@ -241,8 +244,7 @@ std::vector<MeasureText> measure_texts() {
 }
 
 Weighing weigh_readings(std::vector<Reading>& readings, LineIndex const& lines,
-                        textio::GenericStrategy const* const engine_decision,
-                        bool const is_bound) {
+                        textio::GenericStrategy const* const engine_decision, bool const is_bound) {
   for (Reading& r : readings) {
     if (may_be_table(r) || is_bound) {
       measure_values(r, lines);

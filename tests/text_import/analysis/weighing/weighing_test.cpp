@@ -63,7 +63,8 @@ std::string show(TextTraits const& traits) {
   std::string shown;
   auto const add = [&](char const* const name, double const share) {
     if (share > 0) {
-      shown += (shown.empty() ? "" : " ") + (name + ('=' + std::to_string(std::lround(share * 100))));
+      shown +=
+          (shown.empty() ? "" : " ") + (name + ('=' + std::to_string(std::lround(share * 100))));
     }
   };
   add("sentences", traits.sentence_ends);
@@ -93,8 +94,7 @@ TEST(text_traits, are_what_the_lines_show) {
   support::for_each_row("text_import/analysis/weighing/text_traits.tsv",
                         [](support::Row const& row) {
                           std::u16string const text = row.text(0);
-                          EXPECT_EQ(row.cells[1],
-                                    show(find_text_traits(LineIndex(text, {u"\n"}))));
+                          EXPECT_EQ(row.cells[1], show(find_text_traits(LineIndex(text, {u"\n"}))));
                         });
 }
 
