@@ -24,6 +24,13 @@ GIVEN = (["--layout", "lines"], ["--layout", "space-aligned"], ["--layout", "fix
          ["--delimiter", ","], ["--widths", "3,4"])
 
 
+def asks_the_engine(hypothesis):
+    """Lines with more in them than the engine knows are read without it."""
+    syntax = ("outer_bars", "rulers", "escape", "comments_at_line_ends", "quotes_behind_blanks",
+              "rest_of_line")
+    return not any(hypothesis[member] for member in syntax)
+
+
 class Picks(unittest.TestCase):
     def setUp(self):
         folder = tempfile.TemporaryDirectory()
@@ -46,7 +53,7 @@ class Picks(unittest.TestCase):
         most = 0
         for path in paths:
             _, story = self.run_program("explain", "--json", path)
-            hypotheses = len(json.loads(story)["explanation"]["hypotheses"])
+            hypotheses = sum(map(asks_the_engine, json.loads(story)["explanation"]["hypotheses"]))
             most = max(most, hypotheses)
             for command in COMMANDS:
                 with self.subTest(command=command, path=path.name):

@@ -124,7 +124,7 @@ const breakages = {
   "a negative line": (a) => { a.format.region.first_line = -1; },
   "a certainty above 1": (a) => { a.certainty.layout = 1.5; },
   "an unknown role": (a) => { a.evidence.lines = [{ line: 0, role: "head" }]; },
-  "an unknown rule of the explanation": (a) => { a.explanation.rules[0].weight = 1; },
+  "an unknown member of a measure": (a) => { a.explanation.measures[0].weight = 1; },
 };
 
 function checkRefusals(check, explanation, validators) {

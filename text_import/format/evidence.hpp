@@ -135,7 +135,7 @@ struct RunnerUp {
 struct Evidence {
   std::vector<Hypothesis> hypotheses;  ///< in the order in which they were tried
   std::vector<MeasureText> measures;   ///< what the scores are made of
-  /// In the order in which they were made; the last is each line as a value, where that may be.
+  /// In the order in which they were made; the last is each line as a value.
   std::vector<Candidate> candidates;
   std::optional<std::size_t> winner;  ///< empty when each line is a value
   std::optional<RunnerUp> runner_up;

@@ -111,6 +111,18 @@ class RoleReader {
     for (std::size_t i = 0; i < judged_.size(); ++i) {
       roles_[judged_[i].position] = role_of(told_role(judged_[i], best_.roles[i]));
     }
+    entitle_first_groups();
+  }
+
+  /// A heading on top of a table without names is its title.
+  void entitle_first_groups() {
+    for (std::size_t i = 0; i < judged_.size(); ++i) {
+      auto& role = roles_[judged_[i].position];
+      if (role == LineRole::Names || role == LineRole::Data) {
+        return;
+      }
+      role = role == LineRole::Group ? LineRole::Title : role;
+    }
   }
 
   void doubt(TablePart const part, std::int32_t const margin) {

@@ -157,10 +157,10 @@ void TableLines::add_record(std::size_t const record, std::size_t const end) {
     line.kind = LineKind::Blank;
   } else if (line.line == 0 && is_separator_line(text)) {
     line.kind = LineKind::Separator;
-  } else if (is_comment(text, reading_.strategy->options())) {
-    line.kind = LineKind::Comment;
   } else if (is_ruler(text)) {
     line.kind = LineKind::Ruler;
+  } else if (is_comment(text, reading_.strategy->options())) {
+    line.kind = LineKind::Comment;
   } else {
     add_cells(line);
     line.kind = line.num_filled == 0 ? LineKind::Blank : LineKind::Filled;

@@ -62,12 +62,10 @@ class Weigher {
         set_score(result_.scores[i], alternative_of(readings_[i]));
       }
     }
-    result_.scores.back().is_table = !is_bound;
-    if (!is_bound) {
-      set_score(result_.scores.back(), lines_alternative());
-    }
+    result_.scores.back().is_table = true;
+    set_score(result_.scores.back(), lines_alternative());
     set_shares();
-    choose();
+    choose(is_bound);
     if (!result_.winner && is_bound && !readings_.empty()) {
       result_.winner = best_fit();
     }
@@ -205,8 +203,8 @@ class Weigher {
     return best;
   }
 
-  void choose() {
-    auto const best = best_but(std::nullopt);
+  void choose(bool const is_bound) {
+    auto const best = best_but(is_bound ? std::optional(readings_.size()) : std::nullopt);
     if (!best) {
       return;
     }

@@ -36,7 +36,7 @@ struct Weighing {
 
 /// Measures the values of the readings that come so far, and scores all. `engine_decision`: the
 /// strategy that the engine came to by itself, if it was asked. `is_bound`: the caller gives the
-/// layout, so that lines are no answer and the best of the readings stays, whatever it is like.
+/// layout, so that lines are no answer and the best of the readings is, whatever it is like.
 [[nodiscard]] Weighing weigh_readings(std::vector<Reading>& readings, LineIndex const& lines,
                                       textio::GenericStrategy const* engine_decision,
                                       bool is_bound);

@@ -14,16 +14,20 @@ namespace {
 
 std::vector<std::u16string> const line_endings{u"\n"};
 
-std::string show(std::vector<FixedColumns> const& found) {
-  if (found.empty()) {
-    return "none";
-  }
+std::string show(FixedColumns const& columns) {
   std::string shown;
-  for (std::size_t const start : found.front().starts) {
+  for (std::size_t const start : columns.starts) {
     shown += (shown.empty() ? "" : " ") + std::to_string(start);
   }
-  return shown + (found.front().by_ruler ? " ruled" : "") +
-         (found.front().are_touching ? " touching" : "");
+  return shown + (columns.by_ruler ? " ruled" : "") + (columns.are_touching ? " touching" : "");
+}
+
+std::string show(std::vector<FixedColumns> const& found) {
+  std::string shown;
+  for (FixedColumns const& columns : found) {
+    shown += (shown.empty() ? "" : "; ") + show(columns);
+  }
+  return shown.empty() ? "none" : shown;
 }
 
 TEST(fixed_widths, are_shown_by_the_lines) {
