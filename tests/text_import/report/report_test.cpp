@@ -52,8 +52,8 @@ TEST(report, shows_the_answer_then_the_rows_then_the_rest) {
   decimal mark  comma
   how sure      99 %, nearly certain
   why           every line of the data has 4 fields at semicolons, 3 of
-                4 columns hold numbers or dates; no other reading as a
-                table holds
+                4 columns hold numbers or dates; next best: one value,
+                <1 %
 
     id  when        value  value
     --  ----------  -----  -----
@@ -82,19 +82,9 @@ TEST(report, shows_the_answer_then_the_rows_then_the_rest) {
 }
 
 TEST(report, of_a_guess_lists_what_else_the_text_may_be) {
-  std::u16string const text = u"col1,col2\n1;2;3,4;5;6\na;b;c,d;e;f\n";
+  std::u16string const text = u"a, b; c\nd, e; f\n";
   std::string const shown = report(analysis_of(text), made, {});
-  EXPECT_EQ(between(shown, "  layout", "\n    text"),
-            R"(  layout        not decided; read as delimited
-  delimiter     semicolon
-  how sure      46 %, a guess
-  why           too little speaks for the best reading: 67 % of the lines have 5
-                fields at semicolons, no column holds more than text; no other
-                reading as a table holds
-  candidates    the best first
-      1  semicolon, 5 columns: 67 % of the records, soundness 0.82
-      2  comma, 2 columns: 100 % of the records, soundness 0.27
-)");
+  EXPECT_EQ(between(shown, "  layout", "\n    a"), R"(@@@)");
 }
 
 TEST(report, marks_what_is_given) {
