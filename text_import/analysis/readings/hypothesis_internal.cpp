@@ -9,6 +9,7 @@
 #include "text_format_detection/model/unit_search_internal.hpp"
 #include "text_import/analysis/readings/syntax_guesses_internal.hpp"
 #include "text_import/analysis/values/text_internal.hpp"
+#include "text_import/splitting/rulers_internal.hpp"
 
 namespace textimport::analysis {
 
@@ -32,12 +33,16 @@ struct MarkedLines {
   std::size_t at_edges = 0;  ///< those in front of the first line without it or behind the last
 };
 
-/// The lines that start with a marker.
+/// The lines that start with a marker; those that are drawn say nothing.
 MarkedLines count_marked(LineIndex const& lines, view const marker) {
   MarkedLines marked;
   std::size_t run = 0;  // of marked and blank lines
   bool is_top = true;
   for (std::size_t i = 0; i < num_looked_at(lines); ++i) {
+    bool const is_drawn = lines[i].starts_with(marker) && splitting::is_ruler(trimmed(lines[i]));
+    if (is_drawn) {
+      continue;
+    }
     if (lines[i].starts_with(marker)) {
       ++marked.count;
       ++run;

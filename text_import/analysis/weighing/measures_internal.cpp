@@ -114,7 +114,7 @@ constexpr std::array measures{
             [](A const& a) { return yes_or_no(a.engine_agrees); }},
 
     Measure{"uncovered", "records without these columns", share, lack_of<&Reading::coverage>},
-    Measure{"uncovered_root", "the root of the share of records without these columns", number,
+    Measure{"uncovered_root", "records without these columns, the root of their share", number,
             [](A const& a) { return std::sqrt(std::max(0.0, lack_of<&Reading::coverage>(a))); }},
     Measure{"irregular", "records without these columns between the first and the last with them",
             share, lack_of<&Reading::regularity>},
