@@ -57,7 +57,7 @@ class RolePath {
       RoleSet roles = allowed.empty() ? all_roles : allowed[i];
       roles = static_cast<RoleSet>(sees_end ? roles : roles & ~set_of(TableRole::Note));
       for (std::size_t role = 0; role < num_table_roles; ++role) {
-        if ((roles >> role & 1U) == 0) {
+        if ((static_cast<unsigned>(roles) >> role & 1U) == 0) {
           scores_[i][role] = impossible;
         }
       }

@@ -63,7 +63,7 @@ bool is_split_at(Reading const& r) {
 }
 
 bool stands_inside_values(Reading const& r) {
-  constexpr std::u16string_view inner = u"/\\:.-_=@&";
+  constexpr std::u16string_view inner = u"/\\:.-_=@";
   return r.layout == Layout::Delimited && r.delimiter.size() == 1 &&
          inner.find(r.delimiter.front()) != std::u16string_view::npos;
 }
