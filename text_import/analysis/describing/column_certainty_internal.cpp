@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// Each doubt takes its share of the certainty. The shares were set by hand and held against columns of
-// real files cut to 1 to 20 rows: of those that were said to be as sure, about that many kept their
-// type in the whole file.
+// Each doubt takes its share of the certainty. The shares were set by hand and held against columns
+// of real files cut to 1 to 20 rows: of those that were said to be as sure, about that many kept
+// their type in the whole file.
 #include "text_import/analysis/describing/column_certainty_internal.hpp"
 
 #include <algorithm>
