@@ -129,8 +129,9 @@ enum CharacterKind : std::uint8_t { OtherSign, Letter, Digit, Blank, Comma };
 
 constexpr std::array<std::uint8_t, 128> character_kinds = [] {
   std::array<std::uint8_t, 128> kinds{};
-  for (char16_t c = 0; c < kinds.size(); ++c) {
-    kinds[c] = is_letter(c)  ? Letter
+  for (std::size_t i = 0; i < kinds.size(); ++i) {
+    auto const c = static_cast<char16_t>(i);
+    kinds[i] = is_letter(c)  ? Letter
                : is_digit(c) ? Digit
                : is_blank(c) ? Blank
                : c == u','   ? Comma
@@ -183,8 +184,7 @@ class TraitCount {
 
   TextTraits result() {
     std::ranges::sort(patterns_);
-    auto const same = std::ranges::unique(patterns_);
-    patterns_.erase(same.begin(), same.end());
+    patterns_.erase(std::unique(patterns_.begin(), patterns_.end()), patterns_.end());
     return {.sentence_ends = of_lines(sentence_ends_),
             .function_words = share_of(function_words_, words_),
             .number_words = share_of(number_words_, words_),
