@@ -86,7 +86,8 @@ class Outside(unittest.TestCase):
         path.write_bytes(data)
         file = subprocess.run([PROGRAM, "detect", path], capture_output=True)
         pipe = subprocess.run([PROGRAM, "detect", "-"], input=data, capture_output=True)
-        self.assertEqual((file.returncode, pipe.returncode), (0, 0))
+        # Whether the line that is cut is one of the table stays open.
+        self.assertEqual((file.returncode, pipe.returncode), (1, 1))
         self.assertIn("728", file.stdout.decode())
         self.assertEqual(file.stdout.splitlines()[1:], pipe.stdout.splitlines()[1:])
 
