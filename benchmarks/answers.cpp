@@ -20,6 +20,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "benchmarks/folder_files.hpp"
 #include "text_import/analysis/analysis.hpp"
 #include "text_import/format/utf.hpp"
 #include "text_import/format/words.hpp"
@@ -32,21 +33,6 @@ using nlohmann::ordered_json;
 using textimport::Analysis;
 using textimport::Column;
 using textimport::Format;
-using textimport::Layout;
-
-char const* layout_word(Layout const layout) {
-  switch (layout) {
-    case Layout::Delimited:
-      return "delimited";
-    case Layout::SpaceAligned:
-      return "space";
-    case Layout::FixedWidth:
-      return "fixed";
-    case Layout::Lines:
-      break;
-  }
-  return "line";
-}
 
 ordered_json mark(char16_t const c) {
   return c == 0 ? ordered_json() : ordered_json(textimport::to_utf8(std::u16string(1, c)));
@@ -99,9 +85,9 @@ ordered_json answer_about(std::string const& path) {
   Analysis const found = textimport::analyse(text.text_sample(), {});
   Format const& format = found.format;
   auto const& end = format.region.end_line;
-  bool const is_delimited = format.layout.layout == Layout::Delimited;
+  bool const is_delimited = format.layout.layout == textimport::Layout::Delimited;
   return {
-      {"layout", layout_word(format.layout.layout)},
+      {"layout", benchmarks::layout_word(format.layout.layout)},
       {"delimiter", is_delimited ? ordered_json(textimport::to_utf8(format.layout.delimiters[0]))
                                  : ordered_json()},
       {"widths", format.layout.widths},
@@ -150,14 +136,7 @@ int main(int const argc, char const* const* const argv) {
     return 2;
   }
   try {
-    std::vector<std::string> paths;
-    for (auto const& entry : std::filesystem::directory_iterator(argv[1])) {
-      if (entry.is_regular_file()) {
-        paths.push_back(entry.path().string());
-      }
-    }
-    std::sort(paths.begin(), paths.end());
-    for (std::string const& path : paths) {
+    for (std::string const& path : benchmarks::files_of(argv[1])) {
       std::puts(
           answer(path, runs).dump(-1, ' ', true, ordered_json::error_handler_t::replace).c_str());
     }

@@ -13,6 +13,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "benchmarks/folder_files.hpp"
 #include "text_import/analysis/analysis.hpp"
 #include "text_import/format/utf.hpp"
 #include "text_import/import_error.hpp"
@@ -22,28 +23,13 @@ namespace {
 
 using nlohmann::ordered_json;
 using textimport::Candidate;
-using textimport::Layout;
-
-char const* layout_word(Layout const layout) {
-  switch (layout) {
-    case Layout::Delimited:
-      return "delimited";
-    case Layout::SpaceAligned:
-      return "space";
-    case Layout::FixedWidth:
-      return "fixed";
-    case Layout::Lines:
-      break;
-  }
-  return "line";
-}
 
 ordered_json show(Candidate const& candidate) {
   ordered_json values = ordered_json::object();
   for (auto const& piece : candidate.pieces) {
     values[std::to_string(piece.measure)] = piece.value;
   }
-  return {layout_word(candidate.layout), textimport::to_utf8(candidate.delimiter),
+  return {benchmarks::layout_word(candidate.layout), textimport::to_utf8(candidate.delimiter),
           candidate.num_columns, values};
 }
 
@@ -77,15 +63,8 @@ int main(int const argc, char const* const* const argv) {
     return 2;
   }
   try {
-    std::vector<std::string> paths;
-    for (auto const& entry : std::filesystem::directory_iterator(argv[1])) {
-      if (entry.is_regular_file()) {
-        paths.push_back(entry.path().string());
-      }
-    }
-    std::sort(paths.begin(), paths.end());
     bool is_first = true;
-    for (std::string const& path : paths) {
+    for (std::string const& path : benchmarks::files_of(argv[1])) {
       try {
         print_file(path, is_first);
         is_first = false;
